@@ -1,0 +1,70 @@
+#include "toolkit/arc.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace toolkit {
+namespace {
+
+// The clockwise tangent at the touch point.
+Point Tangent(const CircleShape& circle) {
+  return {circle.towardCentre.y, -circle.towardCentre.x};
+}
+
+}  // namespace
+
+VisibleArc ArcInDisc(const CircleShape& circle, Point middle, double reach) {
+  constexpr VisibleArc kNothing{1.0, 0.0};
+  const double r = circle.radius;
+  const double mx = middle.x - circle.touch.x;
+  const double my = middle.y - circle.touch.y;
+  const Point t = Tangent(circle);
+  const double along = mx * t.x + my * t.y;
+  const double inward = mx * circle.towardCentre.x + my * circle.towardCentre.y;
+  const double d = std::hypot(along, r - inward);
+  if (d + r <= reach) return {-std::numbers::pi, std::numbers::pi};
+  const double gap = (along * along + inward * inward - 2.0 * r * inward) / (d + r);
+  if (!(std::abs(gap) <= reach)) return kNothing;
+  // Two factors, each of moderate size: d*r itself may exceed the largest double.
+  const double sine = std::sqrt((reach - gap) / d) * std::sqrt((reach + gap) / r) / 2.0;
+  const double half = 2.0 * std::asin(std::min(sine, 1.0));
+  const double toward = std::atan2(along, r - inward);
+  return {toward - half, toward + half};
+}
+
+Point PointOfArc(const CircleShape& circle, double angle) {
+  const Point t = Tangent(circle);
+  const double s = std::sin(angle / 2.0);
+  const double along = circle.radius * std::sin(angle);
+  const double height = 2.0 * circle.radius * s * s;
+  return {circle.touch.x + along * t.x + height * circle.towardCentre.x,
+          circle.touch.y + along * t.y + height * circle.towardCentre.y};
+}
+
+std::vector<Point> PointsAlong(const CircleShape& circle, const VisibleArc& arc, double spacing) {
+  std::vector<Point> points;
+  if (arc.end < arc.begin) return points;
+  const double angle = arc.end - arc.begin;
+  const int steps = std::max(1, static_cast<int>(std::ceil(angle * circle.radius / spacing)));
+  points.reserve(static_cast<std::size_t>(steps) + 1);
+  for (int i = 0; i <= steps; ++i) {
+    points.push_back(PointOfArc(circle, arc.begin + angle * i / steps));
+  }
+  return points;
+}
+
+CircleShape CircleAround(Point centre, double radius, Point near) {
+  // The distance to the centre and the radius are nearly equal when a huge circle passes by: only
+  // the longer mantissa keeps their difference.
+  const long double dx = static_cast<long double>(centre.x) - near.x;
+  const long double dy = static_cast<long double>(centre.y) - near.y;
+  const long double d = std::hypot(dx, dy);
+  if (d == 0.0L) return {{near.x + radius, near.y}, {-1.0, 0.0}, radius};
+  const long double gap = d - radius;
+  return {{static_cast<double>(near.x + dx / d * gap), static_cast<double>(near.y + dy / d * gap)},
+          {static_cast<double>(dx / d), static_cast<double>(dy / d)},
+          radius};
+}
+
+}  // namespace toolkit

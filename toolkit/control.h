@@ -1,0 +1,81 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "toolkit/event_queue.h"
+#include "toolkit/property.h"
+
+namespace toolkit {
+
+class ControlVisitor;
+class Control;
+
+// Lengths on the window are twips: 1/1440 inch, 15 to a pixel at 96 dots per inch.
+inline constexpr float kTwipsPerPixel = 15.0F;
+
+// A backend's image of one component. Refresh() is called after each change of the state.
+class Mirror {
+ public:
+  virtual ~Mirror() = default;
+  virtual void Refresh() = 0;
+};
+
+// Where controls live: the queue that their events go through, and all of them in tab order.
+struct ControlSite {
+  EventQueue events;
+  std::vector<Control*> controls;
+};
+
+// Anything with a name of its own that a backend can mirror: controls, menu items, the timer.
+class Component : public Changeable {
+ public:
+  Component(ControlSite& site, std::string name) : Name(std::move(name)), site_(site) {}
+  Component(const Component&) = delete;
+  Component& operator=(const Component&) = delete;
+
+  const std::string Name;
+
+  void Changed() override {
+    if (mirror_ != nullptr) mirror_->Refresh();
+  }
+  // The mirror belongs to the backend; null takes it off again.
+  void Attach(Mirror* mirror) { mirror_ = mirror; }
+
+ protected:
+  EventQueue& Events() { return site_.events; }
+  ControlSite& Site() { return site_; }
+
+ private:
+  ControlSite& site_;
+  Mirror* mirror_ = nullptr;
+};
+
+// A control's design-time place in its window, in twips from the top left of the client area.
+struct Design {
+  std::string name;
+  std::string accessibleName;  // what a screen reader calls it
+  float left, top, width, height;
+  bool visible = false;
+};
+
+// The state that every visible control has. Geometry is kept in twips exactly as it was set, never
+// in rounded pixels, so that a layout computed from it does not depend on the screen.
+class Control : public Component {
+ public:
+  Control(ControlSite& site, const Design& design);
+
+  const std::string AccessibleName;
+  Property<float> Left, Top, Width, Height;
+  Property<bool> Visible;
+  Property<std::string> FontName;
+  Property<float> FontSize;  // points
+
+  float Right() const { return Left + Width; }
+  float Bottom() const { return Top + Height; }
+
+  virtual void Accept(ControlVisitor& visitor) = 0;
+};
+
+}  // namespace toolkit
