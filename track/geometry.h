@@ -1,0 +1,66 @@
+#pragma once
+
+#include <optional>
+
+namespace track {
+
+// The model that every picture works on: a body on the track y = A*sin(w*x). Lengths are sketch
+// units, angles radians, times simulated time (there is no mapping to seconds). Pure functions of
+// their arguments, defined for all finite numbers unless said otherwise.
+
+// What the learner sets.
+struct Parameters {
+  double amplitude;               // A, sketch units
+  double frequency;               // w, radians per sketch unit
+  double initialSpeed;            // v0, sketch units per time
+  double tangentialAcceleration;  // at, sketch units per time^2; negative slows the body down
+};
+
+struct Vector {
+  double x, y;
+
+  Vector operator+(const Vector& o) const { return {x + o.x, y + o.y}; }
+  Vector operator-(const Vector& o) const { return {x - o.x, y - o.y}; }
+  Vector operator*(double f) const { return {x * f, y * f}; }
+  Vector operator-() const { return {-x, -y}; }
+  // The scalar product.
+  double Dot(const Vector& o) const { return x * o.x + y * o.y; }
+};
+
+double Length(const Vector& vector);
+
+// y at x.
+double Height(const Parameters& track, double x);
+
+// The shape of the track at one of its points.
+struct TrackPoint {
+  double x, y;
+  double slope;      // y' = A*w*cos(w*x)
+  Vector tangent;    // unit tangent (cos, sin) of the slope's angle: toward increasing x
+  Vector normal;     // the tangent turned a quarter turn anticlockwise
+  double radius;     // signed radius of curvature R = (1 + y'^2)^1.5 / y''; 0 where y'' = 0
+  double curvature;  // signed: 1/R, positive where the track bends upward; 0 where y'' = 0
+};
+
+TrackPoint PointAt(const Parameters& track, double x);
+
+// Centripetal acceleration v^2 * curvature along the normal; its sign says toward which side.
+double CentripetalAcceleration(double speed, double curvature);
+
+// The distance from the origin along the track, exact: K*E(w*x, k) with k = A*w/sqrt(1 + (A*w)^2)
+// and K = sqrt(1 + (A*w)^2)/w.
+double ExactArcLength(const Parameters& track, double x);
+
+// The x whose exact arc length is `distance`, the inverse of ExactArcLength (to about 1e-11 in
+// phase, or within 1e-4 of a quarter period's middle; see PhaseAtArcLength). Any distance.
+double AbscissaAtDistance(const Parameters& track, double distance);
+
+// The distance as the pictures without time count it: K*E(w*x, k) with k = A/sqrt(1 + A^2) and
+// K = sqrt(1 + A^2)/w. It equals the exact one for w = 1 and is the longer for smaller frequencies.
+double SceneArcLength(const Parameters& track, double x);
+
+// The speed after `distance` under the tangential acceleration, v = sqrt(v0^2 + 2*at*s), or nothing
+// where the body never arrives (v0^2 + 2*at*s < 0) or the distance is no number.
+std::optional<double> SpeedAfter(const Parameters& track, double distance);
+
+}  // namespace track
