@@ -1,0 +1,78 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+
+#include "toolkit/picture_box.h"
+
+namespace sketch {
+
+using toolkit::Colour;
+
+// Line styles.
+inline constexpr int kSolid = 0;
+inline constexpr int kDotted = 2;
+
+// The picture box that every picture is drawn on, in user coordinates: a corner-to-corner scale
+// laid over the canvas so that the centre of the top-left pixel is (x1, y1) and that of the
+// bottom-right one (x2, y2). Drawing state persists until it is changed. Numbers may be anything:
+// what is huge is drawn as far as it shows, what is infinite or no number is not drawn.
+class Sketch : public toolkit::PictureBox {
+ public:
+  Sketch(toolkit::ControlSite& site, const toolkit::Design& design, Colour foreground)
+      : PictureBox(site, design, foreground) {}
+
+  double CurrentX = 0.0;  // user units: the top-left corner of the next text
+  double CurrentY = 0.0;
+  int DrawWidth = 1;  // pixels at 96 dots per inch
+  int DrawStyle = kSolid;
+
+  // A button pressed or released: button 1 left, 2 right, 4 middle; the shift state's bits; the
+  // place in user coordinates, also outside the sketch.
+  std::function<void(short button, short shift, float x, float y)> MouseDown, MouseUp;
+
+  void Scale(double x1, double y1, double x2, double y2);
+  double ScaleWidth() const { return x2_ - x1_; }
+  double ScaleHeight() const { return y2_ - y1_; }
+
+  // Erases the whole drawing.
+  void Cls();
+  void Line(double x1, double y1, double x2, double y2, Colour colour);
+  // A full circle. A radius is measured on the x axis; 0 draws nothing.
+  void Circle(double x, double y, double radius, Colour colour);
+  // The circle through (x, y) whose centre lies `radius` times the unit vector (nx, ny) from there;
+  // a signed radius of curvature along the normal says on which side. It passes through the point
+  // at any radius, where the centre alone would round it away.
+  void CircleThrough(double x, double y, double nx, double ny, double radius, Colour colour);
+  // One dot of the current width, in the foreground colour unless another is given.
+  void PSet(double x, double y) { PSet(x, y, ForeColor); }
+  void PSet(double x, double y, Colour colour);
+  // Many dots in the foreground colour, as PSet draws them: (xs[i], ys[i]).
+  void PSet(std::span<const double> xs, std::span<const double> ys);
+  // The text with its top-left corner at (CurrentX, CurrentY), in the foreground colour.
+  void Print(const std::string& text);
+
+ protected:
+  void OnMouseDown(const toolkit::MouseEvent& event) override { Raise(MouseDown, event); }
+  void OnMouseUp(const toolkit::MouseEvent& event) override { Raise(MouseUp, event); }
+
+ private:
+  using MouseHandler = std::function<void(short, short, float, float)>;
+
+  // Pixels = origin + user * factor, on each axis.
+  struct Mapping {
+    double originX, factorX, originY, factorY;
+    toolkit::Point operator()(double x, double y) const {
+      return {originX + x * factorX, originY + y * factorY};
+    }
+  };
+
+  Mapping ToPixels() const;
+  void Raise(const MouseHandler& handler, const toolkit::MouseEvent& event);
+
+  double x1_ = 0.0, y1_ = 10.0, x2_ = 20.0, y2_ = -10.0;
+};
+
+}  // namespace sketch
