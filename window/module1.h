@@ -1,0 +1,40 @@
+#pragma once
+
+#include <array>
+
+#include "track/geometry.h"
+
+namespace window {
+
+// What a time-evolution run has left behind, entry n of each after step n. Entries above the step
+// counter belong to an earlier run and are not drawn.
+struct PathRecords {
+  static constexpr int kLastStep = 12500;
+
+  std::array<double, 13001> PathX{};
+  std::array<double, 13001> PathY{};
+  std::array<double, 13001> PathTime{};
+  std::array<double, 12501> PathDs{};  // distance less the entry before: an alternating sum
+};
+
+// Where the arrows of the last step stand, so that the next one can erase them.
+struct Arrows {
+  track::Vector place, velocity, tangential, centripetal;
+};
+
+// The variables that the window's handlers and procedures share.
+struct Module1 {
+  int StepCount = 0;         // steps of the current run
+  double ElapsedTime = 0.0;  // simulated time of the current run
+
+  bool PointOnTrack = false;  // the last picked point was a point of the track
+  float ForceStartX = 0.0F;   // the last press in the guess mode, sketch units
+  float ForceStartY = 0.0F;
+  double VelocityX = 0.0;  // the body's velocity at the last accepted point
+  double VelocityY = 0.0;
+
+  PathRecords path;
+  Arrows previous;
+};
+
+}  // namespace window
