@@ -1,0 +1,113 @@
+#include "evolution/step.h"
+
+#include <algorithm>
+#include <span>
+
+#include "scenes/parts.h"
+#include "window/format.h"
+
+namespace evolution {
+namespace {
+
+using scenes::DrawArrow;
+using window::Format;
+
+constexpr sketch::Colour kAcceleration{0, 25, 155};
+constexpr sketch::Colour kMark{255, 0, 0};
+
+// The body leaves the sketch at x = 20; the run goes on a little, so that its arrows leave too.
+constexpr double kEnd = 30.0;
+
+constexpr int kReferenceStep = 60;
+
+// A width-3 line in the sketch's background covers the width-1 arrow under it.
+void EraseArrows(sketch::Sketch& eikona, const window::Arrows& old) {
+  eikona.DrawWidth = 3;
+  DrawArrow(eikona, old.place, old.velocity, toolkit::kWhite);
+  DrawArrow(eikona, old.place, old.tangential + old.centripetal, toolkit::kWhite);
+  eikona.DrawWidth = 1;
+}
+
+void DrawMark(sketch::Sketch& eikona, const window::PathRecords& path, int i, int interval) {
+  const auto n = static_cast<std::size_t>(i);
+  eikona.DrawWidth = 3;
+  eikona.PSet(path.PathX[n], path.PathY[n], kMark);
+  if (const auto label = MarkLabel(path, i, interval)) {
+    scenes::PrintAt(eikona, path.PathX[n], path.PathY[n], *label);
+  }
+  eikona.DrawWidth = 1;
+}
+
+void DrawPath(sketch::Sketch& eikona, const window::PathRecords& path, int steps, int interval) {
+  for (int mark = 0; mark <= steps; mark += interval) {
+    eikona.PSet(path.PathX[static_cast<std::size_t>(mark)],
+                path.PathY[static_cast<std::size_t>(mark)]);
+    DrawMark(eikona, path, mark, interval);
+    const auto first = static_cast<std::size_t>(mark) + 1;
+    const auto count = static_cast<std::size_t>(std::min(interval - 1, steps - mark));
+    eikona.PSet(std::span(path.PathX).subspan(first, count),
+                std::span(path.PathY).subspan(first, count));
+  }
+}
+
+}  // namespace
+
+Body BodyAtTime(const track::Parameters& track, double time) {
+  const double speed = track.initialSpeed + track.tangentialAcceleration * time;
+  const double distance =
+      track.initialSpeed * time + 0.5 * track.tangentialAcceleration * time * time;
+  const track::TrackPoint point = track::PointAt(track, track::AbscissaAtDistance(track, distance));
+  const double centripetal = track::CentripetalAcceleration(speed, point.curvature);
+  return {.distance = distance,
+          .place = scenes::Place(point),
+          .velocity = point.tangent * speed,
+          .halfTangential = point.tangent * (track.tangentialAcceleration / 2.0),
+          .halfCentripetal = point.normal * (centripetal / 2.0)};
+}
+
+std::optional<std::string> MarkLabel(const window::PathRecords& path, int i, int interval) {
+  if (i < 30) return std::nullopt;
+  const auto n = static_cast<std::size_t>(i);
+  const double reference = path.PathDs[kReferenceStep];
+  if (i == kReferenceStep) {
+    return "Ds =" + Format(reference, 2) + " t =" + Format(path.PathTime[n], 2);
+  }
+  if (i - 1 - interval <= 0 || reference == 0.0) return std::nullopt;
+  const double before = path.PathDs[static_cast<std::size_t>(i - 1 - interval)];
+  return "Ds = " + Format((path.PathDs[n] - before) / reference, 2) + " X" + Format(reference, 2) +
+         " t = " + Format(path.PathTime[n], 2);
+}
+
+void StepTimeEvolution(window::Controls& firststep) {
+  window::Module1& module = firststep.module;
+  window::PathRecords& path = module.path;
+  sketch::Sketch& eikona = firststep.eikona;
+  if (module.StepCount >= window::PathRecords::kLastStep) {
+    firststep.Timer1.Enabled = false;
+    return;
+  }
+  path.PathX[0] = path.PathY[0] = path.PathDs[0] = 0.0;
+  const track::Parameters track = window::TrackParameters(firststep);
+  scenes::PrintAt(eikona, 2, 8, "β = " + Format(track.frequency, 2));
+
+  module.StepCount += 1;
+  module.ElapsedTime += window::TimeStep(firststep);
+  const auto n = static_cast<std::size_t>(module.StepCount);
+  const Body body = BodyAtTime(track, module.ElapsedTime);
+  path.PathTime[n] = module.ElapsedTime;
+  path.PathDs[n] = body.distance - path.PathDs[n - 1];
+
+  eikona.PSet(body.place.x, body.place.y);
+  EraseArrows(eikona, module.previous);
+  DrawArrow(eikona, body.place, body.velocity, scenes::colours::kVelocity);
+  DrawArrow(eikona, body.place, body.halfTangential + body.halfCentripetal, kAcceleration);
+  if (body.place.x > kEnd || module.StepCount == window::PathRecords::kLastStep) {
+    firststep.Timer1.Enabled = false;
+  }
+  module.previous = {body.place, body.velocity, body.halfTangential, body.halfCentripetal};
+  path.PathX[n] = body.place.x;
+  path.PathY[n] = body.place.y;
+  DrawPath(eikona, path, module.StepCount, 3 * firststep.vimatimi.Value);
+}
+
+}  // namespace evolution
