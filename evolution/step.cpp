@@ -28,25 +28,36 @@ void EraseArrows(sketch::Sketch& eikona, const window::Arrows& old) {
   eikona.DrawWidth = 1;
 }
 
-void DrawMark(sketch::Sketch& eikona, const window::PathRecords& path, int i, int interval) {
-  const auto n = static_cast<std::size_t>(i);
-  eikona.DrawWidth = 3;
-  eikona.PSet(path.PathX[n], path.PathY[n], kMark);
-  if (const auto label = MarkLabel(path, i, interval)) {
-    scenes::PrintAt(eikona, path.PathX[n], path.PathY[n], *label);
+// Brings the labels up to the last step. What a label says is settled when its mark is reached;
+// only a new run or marks at other steps make new ones.
+void UpdateLabels(window::MarkLabels& labels, const window::PathRecords& path, int steps,
+                  int interval) {
+  if (steps == 1 || labels.interval != interval) labels = {interval, {}};
+  const auto marks = static_cast<std::size_t>(steps / interval) + 1;
+  while (labels.texts.size() < marks) {
+    const int step = static_cast<int>(labels.texts.size()) * interval;
+    labels.texts.push_back(MarkLabel(path, step, interval).value_or(""));
   }
+}
+
+void DrawMark(sketch::Sketch& eikona, double x, double y, const std::string& label) {
+  eikona.DrawWidth = 3;
+  eikona.PSet(x, y, kMark);
+  if (!label.empty()) scenes::PrintAt(eikona, x, y, label);
   eikona.DrawWidth = 1;
 }
 
-void DrawPath(sketch::Sketch& eikona, const window::PathRecords& path, int steps, int interval) {
-  for (int mark = 0; mark <= steps; mark += interval) {
-    eikona.PSet(path.PathX[static_cast<std::size_t>(mark)],
-                path.PathY[static_cast<std::size_t>(mark)]);
-    DrawMark(eikona, path, mark, interval);
-    const auto first = static_cast<std::size_t>(mark) + 1;
-    const auto count = static_cast<std::size_t>(std::min(interval - 1, steps - mark));
-    eikona.PSet(std::span(path.PathX).subspan(first, count),
-                std::span(path.PathY).subspan(first, count));
+void DrawPath(sketch::Sketch& eikona, const window::PathRecords& path,
+              const window::MarkLabels& labels, int steps) {
+  const auto interval = static_cast<std::size_t>(labels.interval);
+  const auto places = static_cast<std::size_t>(steps) + 1;
+  for (std::size_t mark = 0; mark * interval < places; ++mark) {
+    const std::size_t first = mark * interval;
+    eikona.PSet(path.PathX[first], path.PathY[first]);
+    DrawMark(eikona, path.PathX[first], path.PathY[first], labels.texts[mark]);
+    const std::size_t count = std::min(interval, places - first) - 1;
+    eikona.PSet(std::span(path.PathX).subspan(first + 1, count),
+                std::span(path.PathY).subspan(first + 1, count));
   }
 }
 
@@ -107,7 +118,8 @@ void StepTimeEvolution(window::Controls& firststep) {
   module.previous = {body.place, body.velocity, body.halfTangential, body.halfCentripetal};
   path.PathX[n] = body.place.x;
   path.PathY[n] = body.place.y;
-  DrawPath(eikona, path, module.StepCount, 3 * firststep.vimatimi.Value);
+  UpdateLabels(module.labels, path, module.StepCount, 3 * firststep.vimatimi.Value);
+  DrawPath(eikona, path, module.labels, module.StepCount);
 }
 
 }  // namespace evolution

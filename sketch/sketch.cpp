@@ -1,7 +1,9 @@
 #include "sketch/sketch.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 
 #include "toolkit/arc.h"
 #include "toolkit/clip.h"
@@ -92,18 +94,20 @@ void Sketch::PSet(double x, double y, Colour colour) {
 void Sketch::PSet(std::span<const double> xs, std::span<const double> ys) {
   if (canvas() == nullptr) return;
   const Mapping map = ToPixels();
-  std::array<Point, 512> batch;
-  std::size_t count = 0;
-  const auto flush = [&] {
-    canvas()->Dots({batch.data(), count}, {ForeColor, DrawWidth});
-    count = 0;
-  };
-  for (std::size_t i = 0; i < xs.size() && i < ys.size(); ++i) {
-    batch[count] = map(xs[i], ys[i]);
-    count += Nearby(batch[count]) ? 1 : 0;
-    if (count == batch.size()) flush();
+  const toolkit::Pen pen{ForeColor, DrawWidth};
+  std::array<Point, 256> batch;
+  const std::size_t dots = std::min(xs.size(), ys.size());
+  for (std::size_t done = 0; done < dots; done += batch.size()) {
+    std::size_t count = std::min(batch.size(), dots - done);
+    for (std::size_t i = 0; i < count; ++i) batch[i] = map(xs[done + i], ys[done + i]);
+    // Almost never is there anything to sort out, so this is not done on the way.
+    if (!std::all_of(batch.begin(), batch.begin() + count, Nearby)) {
+      count = static_cast<std::size_t>(
+          std::remove_if(batch.begin(), batch.begin() + count, std::not_fn(Nearby)) -
+          batch.begin());
+    }
+    canvas()->Dots({batch.data(), count}, pen);
   }
-  if (count > 0) flush();
 }
 
 void Sketch::Print(const std::string& text) {

@@ -1,9 +1,13 @@
-#include <cmath>
 #include <gtest/gtest.h>
+
+#include <bit>
+#include <cmath>
 #include <limits>
+#include <random>
 #include <string>
 #include <vector>
 
+#include "any_double.h"
 #include "track/arc_length.h"
 #include "track/carlson.h"
 #include "track/geometry.h"
@@ -178,6 +182,28 @@ TEST(Geometry, DescribesTheCurve) {
   EXPECT_EQ(track::PointAt({2, 1, 0, 0}, 0.0).curvature, 0.0);
   EXPECT_FALSE(track::SpeedAfter({2, 1, 3, -1}, 4.6).has_value());
   EXPECT_EQ(track::SpeedAfter({2, 1, 3, -1}, 4.5), 0.0);
+}
+
+// Special values in every combination, then random bit patterns.
+TEST(Numerics, ReturnForEveryDouble) {
+  const double special[] = {0.0,       -0.0,       5e-324, 1e-310,   2.3e-308, 1e-38,
+                            1.5e-25,   0.5,        1.0,    1.5,      Pi / 2,   -Pi,
+                            1e9,       4.5e21,     1e154,  8e307,    1.7e308,  -1.7e308,
+                            kInfinity, -kInfinity, kNaN,   0.999999, 1 - 1e-16};
+  for (const double a : special) {
+    for (const double b : special) {
+      for (const double c : special)
+        ASSERT_EQ(FaultOfNumerics(a, b, c), "") << a << ' ' << b << ' ' << c;
+    }
+  }
+  std::mt19937_64 random(5);
+  for (int i = 0; i < 30000; ++i) {
+    const auto any = [&] { return std::bit_cast<double>(random()); };
+    const double a = any();
+    const double b = i % 2 == 0 ? any() : std::abs(std::remainder(any(), 1.999));
+    const double c = any();
+    ASSERT_EQ(FaultOfNumerics(a, b, c), "") << std::hexfloat << a << ' ' << b << ' ' << c;
+  }
 }
 
 }  // namespace

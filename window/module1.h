@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <string>
+#include <vector>
 
 #include "track/geometry.h"
 
@@ -15,6 +17,13 @@ struct PathRecords {
   std::array<double, 13001> PathY{};
   std::array<double, 13001> PathTime{};
   std::array<double, 12501> PathDs{};  // distance less the entry before: an alternating sum
+};
+
+// The labels at the marks of the current run, one for every `interval` steps; empty where none is
+// printed. Every step prints them all again, so they are kept as texts.
+struct MarkLabels {
+  int interval = 0;
+  std::vector<std::string> texts;
 };
 
 // Where the arrows of the last step stand, so that the next one can erase them.
@@ -34,6 +43,7 @@ struct Module1 {
   double VelocityY = 0.0;
 
   PathRecords path;
+  MarkLabels labels;
   Arrows previous;
 };
 
