@@ -1,7 +1,6 @@
 #include "evolution/step.h"
 
 #include <algorithm>
-#include <span>
 
 #include "scenes/parts.h"
 #include "window/format.h"
@@ -47,17 +46,17 @@ void DrawMark(sketch::Sketch& eikona, double x, double y, const std::string& lab
   eikona.DrawWidth = 1;
 }
 
-void DrawPath(sketch::Sketch& eikona, const window::PathRecords& path,
-              const window::MarkLabels& labels, int steps) {
+void DrawPath(sketch::Sketch& eikona, window::Module1& module) {
+  const window::PathRecords& path = module.path;
+  const window::MarkLabels& labels = module.labels;
   const auto interval = static_cast<std::size_t>(labels.interval);
-  const auto places = static_cast<std::size_t>(steps) + 1;
+  const auto places = static_cast<std::size_t>(module.StepCount) + 1;
   for (std::size_t mark = 0; mark * interval < places; ++mark) {
     const std::size_t first = mark * interval;
     eikona.PSet(path.PathX[first], path.PathY[first]);
     DrawMark(eikona, path.PathX[first], path.PathY[first], labels.texts[mark]);
     const std::size_t count = std::min(interval, places - first) - 1;
-    eikona.PSet(std::span(path.PathX).subspan(first + 1, count),
-                std::span(path.PathY).subspan(first + 1, count));
+    module.trail.Draw(eikona, path.PathX, path.PathY, first + 1, count);
   }
 }
 
@@ -119,7 +118,8 @@ void StepTimeEvolution(window::Controls& firststep) {
   path.PathX[n] = body.place.x;
   path.PathY[n] = body.place.y;
   UpdateLabels(module.labels, path, module.StepCount, 3 * firststep.vimatimi.Value);
-  DrawPath(eikona, path, module.labels, module.StepCount);
+  module.trail.Change(n);
+  DrawPath(eikona, module);
 }
 
 }  // namespace evolution

@@ -1,9 +1,6 @@
 #include "sketch/sketch.h"
 
-#include <algorithm>
-#include <array>
 #include <cmath>
-#include <functional>
 
 #include "toolkit/arc.h"
 #include "toolkit/clip.h"
@@ -36,13 +33,18 @@ void Sketch::Scale(double x1, double y1, double x2, double y2) {
   y1_ = y1;
   x2_ = x2;
   y2_ = y2;
+  mapping_ = {};
 }
 
-Sketch::Mapping Sketch::ToPixels() const {
-  const toolkit::Extent size = canvas()->Size();
-  const double fx = (size.width - 1) / ScaleWidth();
-  const double fy = (size.height - 1) / ScaleHeight();
-  return {-x1_ * fx, fx, -y1_ * fy, fy};
+const Mapping& Sketch::ToPixels() const {
+  const toolkit::Extent size = canvas() != nullptr ? canvas()->Size() : toolkit::Extent{1, 1};
+  // Every dot asks; the answer changes with the scale and the canvas only.
+  if (!(size == mapping_.size)) {
+    const double fx = (size.width - 1) / ScaleWidth();
+    const double fy = (size.height - 1) / ScaleHeight();
+    mapping_ = {size, -x1_ * fx, fx, -y1_ * fy, fy};
+  }
+  return mapping_;
 }
 
 void Sketch::Cls() {
@@ -54,7 +56,7 @@ void Sketch::Line(double x1, double y1, double x2, double y2, Colour colour) {
   // Cut in user units first: a coordinate near the largest double has no place among pixels.
   const auto near = toolkit::Clip({{x1, y1}, {x2, y2}}, kSurroundings);
   if (!near) return;
-  const Mapping map = ToPixels();
+  const Mapping& map = ToPixels();
   const Point from = map(near->from.x, near->from.y);
   const Point to = map(near->to.x, near->to.y);
   if (!Finite(from) || !Finite(to)) return;
@@ -73,7 +75,7 @@ void Sketch::Circle(double x, double y, double radius, Colour colour) {
 
 void Sketch::CircleThrough(double x, double y, double nx, double ny, double radius, Colour colour) {
   if (canvas() == nullptr || radius == 0.0 || !Finite(nx, ny)) return;
-  const Mapping map = ToPixels();
+  const Mapping& map = ToPixels();
   const Point touch = map(x, y);
   const double pixels = std::abs(radius * map.factorX);
   // The scale may turn an axis round, never stretch it: the sketch and its scale are square.
@@ -91,23 +93,8 @@ void Sketch::PSet(double x, double y, Colour colour) {
   canvas()->Dots({&place, 1}, {colour, DrawWidth});
 }
 
-void Sketch::PSet(std::span<const double> xs, std::span<const double> ys) {
-  if (canvas() == nullptr) return;
-  const Mapping map = ToPixels();
-  const toolkit::Pen pen{ForeColor, DrawWidth};
-  std::array<Point, 256> batch;
-  const std::size_t dots = std::min(xs.size(), ys.size());
-  for (std::size_t done = 0; done < dots; done += batch.size()) {
-    std::size_t count = std::min(batch.size(), dots - done);
-    for (std::size_t i = 0; i < count; ++i) batch[i] = map(xs[done + i], ys[done + i]);
-    // Almost never is there anything to sort out, so this is not done on the way.
-    if (!std::all_of(batch.begin(), batch.begin() + count, Nearby)) {
-      count = static_cast<std::size_t>(
-          std::remove_if(batch.begin(), batch.begin() + count, std::not_fn(Nearby)) -
-          batch.begin());
-    }
-    canvas()->Dots({batch.data(), count}, pen);
-  }
+void Sketch::PSetPixels(std::span<const Point> places) {
+  if (canvas() != nullptr && !places.empty()) canvas()->Dots(places, {ForeColor, DrawWidth});
 }
 
 void Sketch::Print(const std::string& text) {
@@ -119,7 +106,7 @@ void Sketch::Print(const std::string& text) {
 
 void Sketch::Raise(const MouseHandler& handler, const toolkit::MouseEvent& event) {
   if (!handler || canvas() == nullptr) return;
-  const Mapping map = ToPixels();
+  const Mapping& map = ToPixels();
   const auto x = static_cast<float>((event.place.x - map.originX) / map.factorX);
   const auto y = static_cast<float>((event.place.y - map.originY) / map.factorY);
   // A press nowhere is no press: nothing that is no number gets into what the handlers store.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <optional>
 #include <span>
 #include <string>
 
@@ -14,6 +13,17 @@ using toolkit::Colour;
 // Line styles.
 inline constexpr int kSolid = 0;
 inline constexpr int kDotted = 2;
+
+// From user units to the pixels of a canvas of this size: pixels = origin + user * factor.
+struct Mapping {
+  toolkit::Extent size{};
+  double originX = 0.0, factorX = 0.0, originY = 0.0, factorY = 0.0;
+
+  toolkit::Point operator()(double x, double y) const {
+    return {originX + x * factorX, originY + y * factorY};
+  }
+  bool operator==(const Mapping&) const = default;
+};
 
 // The picture box that every picture is drawn on, in user coordinates: a corner-to-corner scale
 // laid over the canvas so that the centre of the top-left pixel is (x1, y1) and that of the
@@ -49,8 +59,10 @@ class Sketch : public toolkit::PictureBox {
   // One dot of the current width, in the foreground colour unless another is given.
   void PSet(double x, double y) { PSet(x, y, ForeColor); }
   void PSet(double x, double y, Colour colour);
-  // Many dots in the foreground colour, as PSet draws them: (xs[i], ys[i]).
-  void PSet(std::span<const double> xs, std::span<const double> ys);
+  // Dots in the foreground colour at places that ToPixels has given.
+  void PSetPixels(std::span<const toolkit::Point> places);
+  // Where user coordinates are on the canvas as it is now.
+  const Mapping& ToPixels() const;
   // The text with its top-left corner at (CurrentX, CurrentY), in the foreground colour.
   void Print(const std::string& text);
 
@@ -61,18 +73,10 @@ class Sketch : public toolkit::PictureBox {
  private:
   using MouseHandler = std::function<void(short, short, float, float)>;
 
-  // Pixels = origin + user * factor, on each axis.
-  struct Mapping {
-    double originX, factorX, originY, factorY;
-    toolkit::Point operator()(double x, double y) const {
-      return {originX + x * factorX, originY + y * factorY};
-    }
-  };
-
-  Mapping ToPixels() const;
   void Raise(const MouseHandler& handler, const toolkit::MouseEvent& event);
 
   double x1_ = 0.0, y1_ = 10.0, x2_ = 20.0, y2_ = -10.0;
+  mutable Mapping mapping_;
 };
 
 }  // namespace sketch

@@ -38,6 +38,7 @@ struct Pen {
 
 struct Extent {
   int width, height;
+  bool operator==(const Extent&) const = default;
 };
 
 // The drawing surface of a picture box. It keeps its picture. Every number that reaches it is

@@ -38,7 +38,7 @@ TrackPoint PointAt(const Parameters& track, double x) {
   point.normal = {-point.tangent.y, point.tangent.x};
   const double second = -A * w * w * sine;
   if (second != 0.0) {
-    point.radius = std::pow(rise, 1.5) / second;
+    point.radius = rise * std::sqrt(rise) / second;
     point.curvature = 1.0 / point.radius;
   }
   return point;

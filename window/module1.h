@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "sketch/trail.h"
 #include "track/geometry.h"
 
 namespace window {
@@ -44,6 +45,7 @@ struct Module1 {
 
   PathRecords path;
   MarkLabels labels;
+  sketch::Trail trail;  // the dots of the path
   Arrows previous;
 };
 

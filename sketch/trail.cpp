@@ -1,0 +1,66 @@
+#include "sketch/trail.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace sketch {
+namespace {
+
+using toolkit::Point;
+
+// Wherever a canvas draws the line between two pixels, for dots of even width and of odd width, it
+// does so at a half or a whole pixel: two places in one half cover the same pixels.
+bool SamePixels(Point a, Point b) {
+  return std::floor(2.0 * a.x) == std::floor(2.0 * b.x) &&
+         std::floor(2.0 * a.y) == std::floor(2.0 * b.y);
+}
+
+// Room for the widest dot on the densest screen.
+constexpr double kMargin = 32.0;
+
+bool Shows(Point p, toolkit::Extent size) {
+  return p.x > -kMargin && p.x < size.width + kMargin && p.y > -kMargin &&
+         p.y < size.height + kMargin;
+}
+
+}  // namespace
+
+void Trail::Change(std::size_t index) {
+  if (index >= mapped_) return;
+  const std::size_t kept = KeptBefore(index);
+  places_.resize(kept);
+  indices_.resize(kept);
+  mapped_ = index;
+}
+
+void Trail::Draw(Sketch& sketch, std::span<const double> xs, std::span<const double> ys,
+                 std::size_t first, std::size_t count) {
+  if (count == 0) return;
+  if (!(mapping_ == sketch.ToPixels())) {
+    Change(0);
+    mapping_ = sketch.ToPixels();
+  }
+  Map(xs, ys, first + count);
+  // Something may have been drawn over the dot before the first one, so that one is always drawn.
+  sketch.PSet(xs[first], ys[first]);
+  const std::size_t from = KeptBefore(first + 1);
+  const std::size_t to = KeptBefore(first + count);
+  sketch.PSetPixels(std::span(places_).subspan(from, to - from));
+}
+
+void Trail::Map(std::span<const double> xs, std::span<const double> ys, std::size_t end) {
+  for (; mapped_ < end; ++mapped_) {
+    const Point place = mapping_(xs[mapped_], ys[mapped_]);
+    if (!Shows(place, mapping_.size)) continue;
+    if (mapped_ > 0 && SamePixels(mapping_(xs[mapped_ - 1], ys[mapped_ - 1]), place)) continue;
+    places_.push_back(place);
+    indices_.push_back(static_cast<std::uint32_t>(mapped_));
+  }
+}
+
+std::size_t Trail::KeptBefore(std::size_t index) const {
+  return static_cast<std::size_t>(std::lower_bound(indices_.begin(), indices_.end(), index) -
+                                  indices_.begin());
+}
+
+}  // namespace sketch

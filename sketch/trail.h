@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "sketch/sketch.h"
+
+namespace sketch {
+
+// A row of dots that grows at its end and is drawn anew, all of it, again and again. It keeps the
+// dots' places in pixels and leaves out those that change nothing: a dot outside the sketch, and
+// one on the same pixels as the dot before. A body that creeps leaves thousands of those.
+class Trail {
+ public:
+  // Draws dots first to first + count - 1 of the row (xs[i], ys[i]), in user units, as PSet would
+  // draw each: in the foreground colour at the current width.
+  void Draw(Sketch& sketch, std::span<const double> xs, std::span<const double> ys,
+            std::size_t first, std::size_t count);
+  // The row's entries from `index` on are no longer what they were.
+  void Change(std::size_t index);
+
+ private:
+  void Map(std::span<const double> xs, std::span<const double> ys, std::size_t end);
+  std::size_t KeptBefore(std::size_t index) const;
+
+  Mapping mapping_{};
+  std::size_t mapped_ = 0;  // entries of the row that have been looked at
+  std::vector<toolkit::Point> places_;
+  std::vector<std::uint32_t> indices_;  // of the places in the row
+};
+
+}  // namespace sketch
