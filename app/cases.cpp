@@ -29,6 +29,11 @@ void firststep::ShowTimeEvolution(bool shown) {
   }
 }
 
+void firststep::ShowEmptySketch() {
+  eikona.Cls();
+  eikona.Description = "The sketch is empty";
+}
+
 // Runs once, before the window is sized or shown. What it draws is gone before anybody sees it;
 // what lasts is the shown controls, the captions, the selection and the stopped timer.
 void firststep::Form_Load() {
@@ -74,7 +79,7 @@ void firststep::Option2_Click() {
   ShowParameters(false);
   ShowTimeEvolution(true);
   window::StandardScale(eikona);
-  eikona.Cls();
+  ShowEmptySketch();
 }
 
 void firststep::Option1_Click() {
@@ -86,7 +91,7 @@ void firststep::Option1_Click() {
 void firststep::campyles_Click() {
   DYNAMEISDIAFORES.Checked = false;
   GUESSFORCE.Checked = false;
-  eikona.Cls();
+  ShowEmptySketch();
   Option2.Visible = true;
   Option3.Visible = true;
   Option1.Visible = false;
@@ -114,7 +119,7 @@ void firststep::DYNAMEISDIAFORES_Click() {
 
 void firststep::GUESSFORCE_Click() {
   window::StandardScale(eikona);
-  eikona.Cls();
+  ShowEmptySketch();
   DYNAMEISDIAFORES.Checked = false;
   Text1.Text =
       "If you click on the sketch, the vectors depicting FRICTION, VELOCITY, ACCELERATION "

@@ -44,6 +44,7 @@ void firststep::BindHandlers() {
   eikona.MouseUp = [this](short button, short shift, float x, float y) {
     eikona_MouseUp(button, shift, x, y);
   };
+  eikona.KeyDown = [this](toolkit::Key key, short shift) { eikona_KeyDown(key, shift); };
 }
 
 std::unique_ptr<firststep> Main(toolkit::Desktop& machine) {

@@ -44,6 +44,11 @@ struct firststep : window::Controls {
   void eikona_MouseDown(short Button, short Shift, float X, float Y);
   void eikona_MouseUp(short Button, short Shift, float X, float Y);
 
+  // The keyboard on the sketch (keyboard.cpp): the arrow keys move a point along the track, Pick
+  // presses and releases there; in the guess mode SHIFT with the arrow keys pulls a force from it,
+  // which is judged when SHIFT is let go.
+  void eikona_KeyDown(toolkit::Key key, short Shift);
+
   // Shows the window, places every control from the screen's size and draws the opening picture
   // (layout.cpp).
   void ArrangeWindow();
@@ -53,6 +58,10 @@ struct firststep : window::Controls {
   void ShowParameters(bool shown);
   void ShowParameterValues();
   void ShowTimeEvolution(bool shown);
+  void ShowEmptySketch();
+  void MovePointer(toolkit::Key key);
+  void PullForce(toolkit::Key key);
+  void ReleaseForce(short Shift);
 };
 
 // Starts the program on a desktop: creates the window, stretches it over the screen, arranges it.

@@ -96,6 +96,7 @@ void StepTimeEvolution(window::Controls& firststep) {
     firststep.Timer1.Enabled = false;
     return;
   }
+  eikona.Description = "The motion in time: the body's path, its velocity and its acceleration";
   path.PathX[0] = path.PathY[0] = path.PathDs[0] = 0.0;
   const track::Parameters track = window::TrackParameters(firststep);
   scenes::PrintAt(eikona, 2, 8, "β = " + Format(track.frequency, 2));

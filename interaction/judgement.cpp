@@ -1,6 +1,7 @@
 #include "interaction/judgement.h"
 
 #include <cmath>
+#include <string>
 
 #include "interaction/point_scene.h"
 #include "scenes/parts.h"
@@ -14,13 +15,25 @@ constexpr sketch::Colour kNeededCentripetalLegend{25, 50, 250};
 constexpr sketch::Colour kExtraForShape{0, 250, 10};
 constexpr sketch::Colour kExtraForTangential{150, 200, 50};
 
+constexpr const char* kWrongForTangential = "FORCE: INCORRECT FOR THE TANGENTIAL ACCELERATION";
+constexpr const char* kRightForShape =
+    "FORCE: HAS THE CORRECT DIRECTION FOR THE SHAPE OF THE CURVE";
+constexpr const char* kWrongForShape = "FORCE: HAS WRONG DIRECTION FOR THE SHAPE OF THE CURVE";
+
+// The verdicts stand on the sketch only; this says them to those who do not see it.
+void Announce(sketch::Sketch& eikona, const Judgement& judgement) {
+  std::string verdicts = judgement.rightForShape ? kRightForShape : kWrongForShape;
+  if (judgement.wrongForTangential) verdicts = std::string(kWrongForTangential) + ". " + verdicts;
+  eikona.Announce(verdicts);
+}
+
 void DrawShapeVerdict(sketch::Sketch& eikona, const Judgement& judgement,
                       const track::Vector& place, const track::Vector& centripetal) {
   if (judgement.rightForShape) {
-    scenes::PrintAt(eikona, 2, 8, "FORCE: HAS THE CORRECT DIRECTION FOR THE SHAPE OF THE CURVE");
+    scenes::PrintAt(eikona, 2, 8, kRightForShape);
     return;
   }
-  scenes::PrintAt(eikona, 2, 8, "FORCE: HAS WRONG DIRECTION FOR THE SHAPE OF THE CURVE");
+  scenes::PrintAt(eikona, 2, 8, kWrongForShape);
   eikona.DrawWidth = 3;
   if (track::Length(centripetal) != 0.0) {
     scenes::DrawArrow(eikona, place, centripetal, kNeededCentripetal);
@@ -80,10 +93,11 @@ void JudgeForce(window::Controls& firststep, float x, float y) {
   scenes::DrawArrow(eikona, place, force, kForce);
   const Judgement judgement = Judge(*motion, force);
   if (judgement.wrongForTangential) {
-    scenes::PrintAt(eikona, 2, 9, "FORCE: INCORRECT FOR THE TANGENTIAL ACCELERATION");
+    scenes::PrintAt(eikona, 2, 9, kWrongForTangential);
   }
   DrawShapeVerdict(eikona, judgement, place, motion->centripetalArrow);
   DrawExtraForces(eikona, judgement, place);
+  Announce(eikona, judgement);
 }
 
 }  // namespace interaction

@@ -1,9 +1,11 @@
 #include "interaction/point_scene.h"
 
 #include <cmath>
+#include <string>
 
 #include "scenes/curvature_scene.h"
 #include "scenes/parts.h"
+#include "window/format.h"
 
 namespace interaction {
 namespace {
@@ -16,6 +18,17 @@ constexpr double kStraight = 1e15;
 void DrawFriction(sketch::Sketch& eikona, const track::Motion& motion) {
   scenes::DrawArrow(eikona, scenes::Place(motion.point), Friction(motion), colours::kFriction);
   scenes::DrawLegend(eikona, {{2, 9.8}, {0.2, 9.3}, colours::kFriction}, "FRICTION");
+}
+
+std::string Describe(const track::Motion& motion) {
+  using window::Format;
+  return "The track with the velocity, the acceleration and the circle of curvature at x = " +
+         Format(motion.point.x, 1) + ", y = " + Format(motion.point.y, 1) + ": speed " +
+         Format(motion.speed, 1) + ", centripetal acceleration " +
+         Format(std::abs(motion.centripetal), 1) +
+         (motion.centripetal < 0.0   ? " downward"
+          : motion.centripetal > 0.0 ? " upward"
+                                     : "");
 }
 
 void Explain(window::Controls& firststep) {
@@ -59,7 +72,11 @@ void DrawPointVectors(window::Controls& firststep, float x, float y) {
     return;
   }
   const auto motion = MotionAtPicked(track, picked.x);
-  if (!motion) return;
+  if (!motion) {
+    eikona.Description = "The track; the body never arrives at the picked point";
+    return;
+  }
+  eikona.Description = Describe(*motion);
   const track::Vector place = scenes::Place(motion->point);
   scenes::DrawCircleOfCurvature(eikona, motion->point);
   eikona.PSet(place.x, place.y);

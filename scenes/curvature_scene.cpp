@@ -9,6 +9,9 @@ namespace scenes {
 void DrawCurvatureScene(window::Controls& firststep) {
   sketch::Sketch& eikona = firststep.eikona;
   const track::Parameters track = window::TrackParameters(firststep);
+  eikona.Description =
+      "The track with its circles of curvature at the first crest and the first trough, and the "
+      "velocity and acceleration there";
   DrawTrack(eikona, track);
   for (const double phase : {track::Pi / 2.0, 3.0 * track::Pi / 2.0}) {
     const auto motion = track::MotionAt(track, phase / track.frequency);

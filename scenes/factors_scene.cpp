@@ -23,6 +23,8 @@ void DrawStation(sketch::Sketch& eikona, const track::Motion& motion) {
 void DrawFactorsScene(window::Controls& firststep) {
   sketch::Sketch& eikona = firststep.eikona;
   const track::Parameters track = window::TrackParameters(firststep);
+  eikona.Description =
+      "The track with the velocity, the centripetal and the total acceleration at fifteen stations";
   for (int sample = 0; sample < kTrackSamples; ++sample) {
     const auto motion = track::MotionAt(track, SampleAbscissa(sample));
     if (!motion) return;

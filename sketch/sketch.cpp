@@ -47,6 +47,17 @@ const Mapping& Sketch::ToPixels() const {
   return mapping_;
 }
 
+std::optional<toolkit::KeyPointer> Sketch::PointerOnCanvas() const {
+  const std::optional<Pointer>& pointer = KeyPointer;
+  if (!pointer) return std::nullopt;
+  const Mapping& map = ToPixels();
+  toolkit::KeyPointer shown{map(pointer->x, pointer->y), std::nullopt};
+  if (pointer->tipX != pointer->x || pointer->tipY != pointer->y) {
+    shown.tip = map(pointer->tipX, pointer->tipY);
+  }
+  return shown;
+}
+
 void Sketch::Cls() {
   if (canvas() != nullptr) canvas()->Clear(toolkit::kWhite);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -25,6 +26,13 @@ struct Mapping {
   bool operator==(const Mapping&) const = default;
 };
 
+// Where the keyboard points, and the tip of what it pulls, in user units.
+struct Pointer {
+  double x, y;
+  double tipX, tipY;
+  bool operator==(const Pointer&) const = default;
+};
+
 // The picture box that every picture is drawn on, in user coordinates: a corner-to-corner scale
 // laid over the canvas so that the centre of the top-left pixel is (x1, y1) and that of the
 // bottom-right one (x2, y2). Drawing state persists until it is changed. Numbers may be anything:
@@ -32,7 +40,7 @@ struct Mapping {
 class Sketch : public toolkit::PictureBox {
  public:
   Sketch(toolkit::ControlSite& site, const toolkit::Design& design, Colour foreground)
-      : PictureBox(site, design, foreground) {}
+      : PictureBox(site, design, foreground), KeyPointer(*this, std::nullopt) {}
 
   double CurrentX = 0.0;  // user units: the top-left corner of the next text
   double CurrentY = 0.0;
@@ -43,9 +51,15 @@ class Sketch : public toolkit::PictureBox {
   // place in user coordinates, also outside the sketch.
   std::function<void(short button, short shift, float x, float y)> MouseDown, MouseUp;
 
+  // A key pressed while the sketch has the focus, with the shift state's bits.
+  std::function<void(toolkit::Key key, short shift)> KeyDown;
+  toolkit::Property<std::optional<Pointer>> KeyPointer;
+
   void Scale(double x1, double y1, double x2, double y2);
   double ScaleWidth() const { return x2_ - x1_; }
   double ScaleHeight() const { return y2_ - y1_; }
+
+  std::optional<toolkit::KeyPointer> PointerOnCanvas() const override;
 
   // Erases the whole drawing.
   void Cls();
@@ -69,6 +83,9 @@ class Sketch : public toolkit::PictureBox {
  protected:
   void OnMouseDown(const toolkit::MouseEvent& event) override { Raise(MouseDown, event); }
   void OnMouseUp(const toolkit::MouseEvent& event) override { Raise(MouseUp, event); }
+  void OnKey(toolkit::Key key, int shift) override {
+    if (KeyDown) KeyDown(key, static_cast<short>(shift));
+  }
 
  private:
   using MouseHandler = std::function<void(short, short, float, float)>;

@@ -49,7 +49,7 @@ std::string Walk::Step() {
 
 void Walk::RandomEvent() {
   app::firststep& w = *window_;
-  switch (Any(0, 11)) {
+  switch (Any(0, 13)) {
     case 0:
     case 1:
       return Choose(Any(0, 150) == 0 ? 7 : Any(0, 6));
@@ -78,6 +78,10 @@ void Walk::RandomEvent() {
     case 7:
     case 8:
       return Mouse();
+    case 9:
+    case 10:
+      last_ = "key";
+      return w.eikona.UserKey(static_cast<toolkit::Key>(Any(0, 8)), Any(0, 2) == 0 ? Any(0, 7) : 1);
     default:
       last_ = "tick";
       return desktop_->Tick();

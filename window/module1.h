@@ -43,6 +43,9 @@ struct Module1 {
   double VelocityX = 0.0;  // the body's velocity at the last accepted point
   double VelocityY = 0.0;
 
+  double PointerX = 6.0;    // where the keyboard points: the track's point over this abscissa
+  bool PullsForce = false;  // the keyboard has pressed there and pulls a force
+
   PathRecords path;
   MarkLabels labels;
   sketch::Trail trail;  // the dots of the path
