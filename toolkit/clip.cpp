@@ -12,16 +12,15 @@ struct Span {
   double enter = 0.0;
   double leave = 1.0;
 
-  // Keeps the side where from + t*delta <= limit; false when nothing is left.
-  bool Keep(double from, double delta, double limit) {
-    const double room = limit - from;
-    if (delta == 0.0) return room >= 0.0;
-    const double t = room / delta;
-    if (delta > 0.0) {
-      leave = std::min(leave, t);
-    } else {
-      enter = std::max(enter, t);
-    }
+  // Keeps the side where the coordinate, running from `from` to `to`, does not exceed the limit;
+  // false when nothing is left.
+  bool Keep(double from, double to, double limit) {
+    const double roomBefore = limit - from;
+    const double roomAfter = limit - to;
+    if (roomBefore < 0.0 && roomAfter < 0.0) return false;
+    const double crossing = roomBefore / (roomBefore - roomAfter);
+    if (roomBefore < 0.0) enter = std::max(enter, crossing);
+    if (roomAfter < 0.0) leave = std::min(leave, crossing);
     return enter <= leave;
   }
 };
@@ -31,11 +30,9 @@ struct Span {
 std::optional<Segment> Clip(const Segment& segment, const Box& box) {
   const Point a{kScale * segment.from.x, kScale * segment.from.y};
   const Point b{kScale * segment.to.x, kScale * segment.to.y};
-  const double dx = b.x - a.x;
-  const double dy = b.y - a.y;
   Span span;
-  if (!span.Keep(a.x, dx, kScale * box.right) || !span.Keep(-a.x, -dx, -kScale * box.left) ||
-      !span.Keep(a.y, dy, kScale * box.bottom) || !span.Keep(-a.y, -dy, -kScale * box.top)) {
+  if (!span.Keep(a.x, b.x, kScale * box.right) || !span.Keep(-a.x, -b.x, -kScale * box.left) ||
+      !span.Keep(a.y, b.y, kScale * box.bottom) || !span.Keep(-a.y, -b.y, -kScale * box.top)) {
     return std::nullopt;
   }
   // Interpolated from both ends, so that the nearer one decides the digits; held to the box,
