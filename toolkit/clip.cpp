@@ -1,49 +1,45 @@
 #include "toolkit/clip.h"
 
-#include <algorithm>
+#include <cmath>
 
 namespace toolkit {
 namespace {
 
-constexpr double kScale = 0.25;
+using Axis = double Point::*;
 
-// The parameters 0 to 1 along the segment that are still inside.
-struct Span {
-  double enter = 0.0;
-  double leave = 1.0;
+// Half of the difference of two coordinates, which the difference itself might exceed.
+double HalfSpan(double from, double to) {
+  return 0.5 * to - 0.5 * from;
+}
 
-  // Keeps the side where the coordinate, running from `from` to `to`, does not exceed the limit;
-  // false when nothing is left.
-  bool Keep(double from, double to, double limit) {
-    const double roomBefore = limit - from;
-    const double roomAfter = limit - to;
-    if (roomBefore < 0.0 && roomAfter < 0.0) return false;
-    const double crossing = roomBefore / (roomBefore - roomAfter);
-    if (roomBefore < 0.0) enter = std::max(enter, crossing);
-    if (roomAfter < 0.0) leave = std::min(leave, crossing);
-    return enter <= leave;
-  }
-};
+// Keeps what lies on one side of a line across `axis`: `side` 1 below the limit, -1 above it. False
+// when nothing is left. The end that is cut off comes to lie exactly on the limit; its other
+// coordinate is counted from the end nearer to the limit, whose digits it needs.
+bool Keep(Segment& segment, Axis axis, Axis across, double limit, double side) {
+  const double from = side * HalfSpan(limit, segment.from.*axis);
+  const double to = side * HalfSpan(limit, segment.to.*axis);
+  if (from > 0.0 && to > 0.0) return false;
+  if (from <= 0.0 && to <= 0.0) return true;
+  const bool fromIsNearer = std::abs(from) < std::abs(to);
+  const Point near = fromIsNearer ? segment.from : segment.to;
+  const Point far = fromIsNearer ? segment.to : segment.from;
+  const double share = HalfSpan(near.*axis, limit) / HalfSpan(near.*axis, far.*axis);
+  Point& cut = from > 0.0 ? segment.from : segment.to;
+  cut.*across = near.*across + 2.0 * (share * HalfSpan(near.*across, far.*across));
+  cut.*axis = limit;
+  return true;
+}
 
 }  // namespace
 
 std::optional<Segment> Clip(const Segment& segment, const Box& box) {
-  const Point a{kScale * segment.from.x, kScale * segment.from.y};
-  const Point b{kScale * segment.to.x, kScale * segment.to.y};
-  Span span;
-  if (!span.Keep(a.x, b.x, kScale * box.right) || !span.Keep(-a.x, -b.x, -kScale * box.left) ||
-      !span.Keep(a.y, b.y, kScale * box.bottom) || !span.Keep(-a.y, -b.y, -kScale * box.top)) {
-    return std::nullopt;
-  }
-  // Interpolated from both ends, so that the nearer one decides the digits; held to the box,
-  // because an end far away leaves none below its own last one.
-  const auto at = [&](double t) {
-    const double x = ((1.0 - t) * a.x + t * b.x) / kScale;
-    const double y = ((1.0 - t) * a.y + t * b.y) / kScale;
-    return Point{std::clamp(x, box.left, box.right), std::clamp(y, box.top, box.bottom)};
-  };
-  return Segment{span.enter > 0.0 ? at(span.enter) : segment.from,
-                 span.leave < 1.0 ? at(span.leave) : segment.to};
+  Segment kept = segment;
+  const bool left = Keep(kept, &Point::x, &Point::y, box.right, 1.0) &&
+                    Keep(kept, &Point::x, &Point::y, box.left, -1.0) &&
+                    Keep(kept, &Point::y, &Point::x, box.bottom, 1.0) &&
+                    Keep(kept, &Point::y, &Point::x, box.top, -1.0);
+  if (!left) return std::nullopt;
+  return kept;
 }
 
 }  // namespace toolkit

@@ -16,8 +16,8 @@ struct Box {
 
 // The part of the segment that lies in the box, or nothing. Any finite coordinates, up to the
 // largest double. An end that lies inside is returned as it is.
-// Source: the parametric clipping of Liang and Barsky, on coordinates scaled down so that their
-// differences cannot overflow.
+// Source: clipping against one edge after the other (Sutherland and Hodgman), with each crossing
+// counted from the end nearer to it.
 std::optional<Segment> Clip(const Segment& segment, const Box& box);
 
 }  // namespace toolkit

@@ -53,7 +53,9 @@ class Window : public ControlSite, public Component {
   // Ends the program: no event is delivered any more, the window closes, the timers stop.
   void End();
   // The user has closed the window.
-  void UserClose() { End(); }
+  void UserClose() {
+    events.Deliver([this] { End(); });
+  }
 };
 
 }  // namespace toolkit

@@ -17,7 +17,8 @@ struct Parameters {
 };
 
 struct Vector {
-  double x, y;
+  double x = 0.0;
+  double y = 0.0;
 
   Vector operator+(const Vector& o) const { return {x + o.x, y + o.y}; }
   Vector operator-(const Vector& o) const { return {x - o.x, y - o.y}; }
@@ -34,7 +35,8 @@ double Height(const Parameters& track, double x);
 
 // The shape of the track at one of its points.
 struct TrackPoint {
-  double x, y;
+  double x = 0.0;
+  double y = 0.0;
   double slope;      // y' = A*w*cos(w*x)
   Vector tangent;    // unit tangent (cos, sin) of the slope's angle: toward increasing x
   Vector normal;     // the tangent turned a quarter turn anticlockwise
