@@ -1,6 +1,7 @@
 #include "evolution/step.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "scenes/parts.h"
 #include "window/format.h"
@@ -18,6 +19,10 @@ constexpr sketch::Colour kMark{255, 0, 0};
 constexpr double kEnd = 30.0;
 
 constexpr int kReferenceStep = 60;
+
+// A reference distance below this is 0, and only rounding has made it a number: no run with steps
+// of one length has a true one below 10^-5.
+constexpr double kNothing = 1e-9;
 
 // A width-3 line in the sketch's background covers the width-1 arrow under it.
 void EraseArrows(sketch::Sketch& eikona, const window::Arrows& old) {
@@ -82,7 +87,7 @@ std::optional<std::string> MarkLabel(const window::PathRecords& path, int i, int
   if (i == kReferenceStep) {
     return "Ds =" + Format(reference, 2) + " t =" + Format(path.PathTime[n], 2);
   }
-  if (i - 1 - interval <= 0 || reference == 0.0) return std::nullopt;
+  if (i - 1 - interval <= 0 || std::abs(reference) < kNothing) return std::nullopt;
   const double before = path.PathDs[static_cast<std::size_t>(i - 1 - interval)];
   return "Ds = " + Format((path.PathDs[n] - before) / reference, 2) + " X" + Format(reference, 2) +
          " t = " + Format(path.PathTime[n], 2);
