@@ -1,0 +1,67 @@
+#!/usr/bin/env bash
+# Installs the program into a scratch root, makes the Debian package, and starts the program from
+# the package: check.sh [BUILD_DIR], everything being built there.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+built=$(realpath "${1:-build/ci}")
+id=org.example.FirstStep
+scratch=$(mktemp -d)
+server='' shown=''
+trap 'kill $shown $server 2>/dev/null || true; wait; rm -rf "$scratch"' EXIT
+
+fail() {
+  echo "$1" >&2
+  exit 1
+}
+
+# Succeeds if the installed tree $1 is complete and a desktop can make sense of it.
+check_tree() {
+  local share=$1/share file
+  for file in "$1/bin/firststep" "$share/doc/firststep/"{README.md,docs/physics.md}; do
+    [[ -s $file ]] || fail "$file is missing."
+  done
+  desktop-file-validate "$share/applications/$id.desktop"
+  grep -qx "Icon=$id" "$share/applications/$id.desktop" || fail "The desktop file has another icon."
+  appstreamcli validate --no-net "$share/metainfo/$id.metainfo.xml"
+  # This one sees whether the description finds its desktop file.
+  appstreamcli validate-tree --no-net "$(dirname "$1")"
+  file --brief "$share/icons/hicolor/scalable/apps/$id.svg" | grep SVG || fail "The icon is no SVG."
+  grep -qF "$id" "$1/bin/firststep" || fail "The window does not tell the desktop its name, $id."
+}
+
+# Starts the program $1 on a display of its own and ends it when its window is there, under the
+# name by which a desktop finds the icon.
+check_start() {
+  local end=$((SECONDS + 30)) title
+  Xvfb -displayfd 3 -screen 0 1366x768x24 3>"$scratch/display" >"$scratch/server.log" 2>&1 &
+  server=$!
+  until [[ -s $scratch/display ]]; do
+    ((SECONDS < end)) || fail "The virtual display did not start: $(<"$scratch/server.log")"
+    sleep 0.1
+  done
+  DISPLAY=:$(<"$scratch/display") QT_QPA_PLATFORM=xcb "$1" >"$scratch/program.log" 2>&1 3>&- &
+  shown=$!
+  title=$(DISPLAY=:$(<"$scratch/display") timeout 30 \
+    xdotool search --sync --onlyvisible --class '^firststep$' getwindowname) || true
+  [[ $title == "first explanation" ]] ||
+    fail "The program did not show its window: $(<"$scratch/program.log")"
+}
+
+DESTDIR=$scratch/installed cmake --install "$built" --prefix /usr >/dev/null
+check_tree "$scratch/installed/usr"
+
+cpack --config "$built/CPackConfig.cmake" -B "$scratch/package" >"$scratch/cpack.log" ||
+  fail "$(<"$scratch/cpack.log")"
+package=$(echo "$scratch"/package/*.deb)
+dpkg-deb --info "$package"
+for library in libc6 libqt6core6 libqt6gui6 libqt6widgets6; do
+  dpkg-deb --field "$package" Depends | grep -qw "$library" ||
+    fail "The package does not ask for $library."
+done
+
+dpkg-deb --extract "$package" "$scratch/unpacked"
+diff <(cd "$scratch/installed" && find . | sort) <(cd "$scratch/unpacked" && find . | sort) ||
+  fail "The package holds other files than the installation."
+check_start "$scratch/unpacked/usr/bin/firststep"
+echo "The package is good: $(basename "$package")"
