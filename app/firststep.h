@@ -60,8 +60,11 @@ struct firststep : window::Controls {
   void ShowTimeEvolution(bool shown);
   void ShowEmptySketch();
   void MovePointer(toolkit::Key key);
+  void PutPointerOnTrack();
+  void FollowTrack();
   void PullForce(toolkit::Key key);
   void ReleaseForce(short Shift);
+  void DropForce();
 };
 
 // Starts the program on a desktop: creates the window, stretches it over the screen, arranges it.

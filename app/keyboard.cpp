@@ -61,7 +61,6 @@ void firststep::eikona_KeyDown(Key key, short Shift) {
   }
 }
 
-// Puts the pointer on the track as it is now; the scroll bars may have bent it meanwhile.
 void firststep::MovePointer(Key key) {
   double& x = module.PointerX;
   if (const auto direction = DirectionOf(key)) {
@@ -71,9 +70,20 @@ void firststep::MovePointer(Key key) {
   }
   if (key == Key::Home) x = 0.0;
   if (key == Key::End) x = kEnd;
+  PutPointerOnTrack();
+  eikona.Announce(PlaceText(x, eikona.KeyPointer.Get()->y));
+}
+
+void firststep::PutPointerOnTrack() {
+  const double x = module.PointerX;
   const double y = track::Height(window::TrackParameters(*this), x);
   eikona.KeyPointer = sketch::Pointer{x, y, x, y};
-  eikona.Announce(PlaceText(x, y));
+}
+
+// The pointer stays on a track that the scroll bars have bent. A pulled force stays where it was
+// pressed, as it does under the mouse.
+void firststep::FollowTrack() {
+  if (eikona.KeyPointer.Get() && !module.PullsForce) PutPointerOnTrack();
 }
 
 void firststep::PullForce(Key key) {
@@ -94,15 +104,21 @@ void firststep::PullForce(Key key) {
 
 void firststep::ReleaseForce(short Shift) {
   if (!module.PullsForce) return;
+  const auto X = static_cast<float>(eikona.KeyPointer.Get()->tipX);
+  const auto Y = static_cast<float>(eikona.KeyPointer.Get()->tipY);
+  DropForce();
+  // Another case may have been chosen while the force was pulled.
+  if (GUESSFORCE.Checked) eikona_MouseUp(1, Shift, X, Y);
+}
+
+// The tip goes back to the point; nothing is judged.
+void firststep::DropForce() {
+  if (!module.PullsForce) return;
   module.PullsForce = false;
   sketch::Pointer pointer = *eikona.KeyPointer.Get();
-  const auto X = static_cast<float>(pointer.tipX);
-  const auto Y = static_cast<float>(pointer.tipY);
   pointer.tipX = pointer.x;
   pointer.tipY = pointer.y;
   eikona.KeyPointer = pointer;
-  // Another case may have been chosen while the force was pulled.
-  if (GUESSFORCE.Checked) eikona_MouseUp(1, Shift, X, Y);
 }
 
 }  // namespace app

@@ -5,7 +5,7 @@
 namespace app {
 
 void firststep::eikona_MouseDown(short /*Button*/, short /*Shift*/, float X, float Y) {
-  module.PullsForce = false;
+  DropForce();
   if (GUESSFORCE.Checked) {
     module.ForceStartX = X;
     module.ForceStartY = Y;

@@ -1,0 +1,35 @@
+#include "toolkit/qt/control_mirror.h"
+
+#include <QSignalBlocker>
+
+#include <utility>
+
+#include "toolkit/qt/font.h"
+#include "toolkit/qt/text.h"
+#include "toolkit/qt/twips.h"
+
+namespace toolkit::qt {
+
+ControlMirror::ControlMirror(Control& control, std::unique_ptr<QWidget> widget,
+                             std::function<void()> show)
+    : control_(control), widget_(std::move(widget)), show_(std::move(show)) {
+  widget_->setObjectName(Text(control.Name));
+  widget_->setAccessibleName(Text(control.AccessibleName));
+  Refresh();
+  control.Attach(this);
+}
+
+ControlMirror::~ControlMirror() {
+  control_.Attach(nullptr);
+}
+
+void ControlMirror::Refresh() {
+  const QSignalBlocker blocker(widget_.get());
+  widget_->setGeometry(PixelsOf(control_.Left, control_.Top, control_.Width, control_.Height));
+  const QFont font = FontOf(control_.FontName, control_.FontSize);
+  if (font != widget_->font()) widget_->setFont(font);
+  show_();
+  widget_->setVisible(control_.Visible);
+}
+
+}  // namespace toolkit::qt

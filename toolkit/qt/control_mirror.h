@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "toolkit/controls.h"
+
+namespace toolkit::qt {
+
+// A control's widget. What the program sets is shown without being taken for the user's doing.
+class ControlMirror : public Mirror {
+ public:
+  // `show` brings to the widget what only this kind of control has.
+  ControlMirror(Control& control, std::unique_ptr<QWidget> widget, std::function<void()> show);
+  ~ControlMirror() override;
+  ControlMirror(const ControlMirror&) = delete;
+  ControlMirror& operator=(const ControlMirror&) = delete;
+
+  void Refresh() final;
+
+ private:
+  Control& control_;
+  std::unique_ptr<QWidget> widget_;
+  std::function<void()> show_;
+};
+
+// A mirror for each of the controls. Their widgets are children of `client`, in the same tab order.
+std::vector<std::unique_ptr<Mirror>> MirrorControls(const std::vector<Control*>& controls,
+                                                    QWidget& client);
+
+}  // namespace toolkit::qt

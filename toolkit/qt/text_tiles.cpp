@@ -1,0 +1,53 @@
+#include "toolkit/qt/text_tiles.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QString>
+
+#include "toolkit/qt/pixels.h"
+
+namespace toolkit::qt {
+namespace {
+
+// More than the labels of the longest run, and still only a few megabytes.
+constexpr std::size_t kMostTiles = 1024;
+
+}  // namespace
+
+void TextTiles::SetFont(const QFont& font) {
+  QFont plain = font;
+  // Coloured fringes would not survive being laid over another text.
+  plain.setStyleStrategy(
+      static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
+  if (plain == font_) return;
+  font_ = plain;
+  tiles_.clear();
+}
+
+const TextTiles::Tile& TextTiles::Of(const std::string& text, Colour colour) {
+  std::string key = text;
+  for (const std::uint8_t part : {colour.red, colour.green, colour.blue}) {
+    key.push_back(static_cast<char>(part));
+  }
+  const auto found = tiles_.find(key);
+  if (found != tiles_.end()) return found->second;
+  if (tiles_.size() >= kMostTiles) tiles_.clear();
+  return tiles_.emplace(std::move(key), Render(text, colour)).first->second;
+}
+
+TextTiles::Tile TextTiles::Render(const std::string& text, Colour colour) const {
+  const QString line = QString::fromStdString(text);
+  const QFontMetrics metrics(font_);
+  const QRect ink = metrics.boundingRect(line);
+  const int left = std::min(ink.left(), 0) - 1;
+  const int right = std::max(ink.right(), metrics.horizontalAdvance(line)) + 2;
+  QImage image(right - left, metrics.height(), QImage::Format_RGB32);
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.setFont(font_);
+  painter.setPen(QColor(Rgb(colour)));
+  painter.drawText(-left, metrics.ascent(), line);
+  return {image, left};
+}
+
+}  // namespace toolkit::qt

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QWidget>
+
+namespace toolkit::qt {
+
+// A text that wraps inside its box and paints nothing behind it.
+class LabelWidget : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+  // `spoken` is what a screen reader reads out: it says what the number in the text is about.
+  void SetText(const QString& text, const QString& spoken);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString text_;
+};
+
+// A scroll bar that takes the keyboard and shows when it has it.
+class ScrollWidget : public QScrollBar {
+ public:
+  ScrollWidget(Qt::Orientation orientation, QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  int wheel_ = 0;  // what has been turned since the last whole notch
+};
+
+// A radio button whose text wraps, which can be clicked all over its box, and whose mark is set by
+// the program alone: a click only says that the user has clicked.
+class OptionWidget : public QRadioButton {
+ public:
+  explicit OptionWidget(QWidget* parent);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool hitButton(const QPoint& place) const override { return rect().contains(place); }
+  void nextCheckState() override {}
+};
+
+}  // namespace toolkit::qt
