@@ -1,0 +1,72 @@
+#!/usr/bin/env bash
+# Takes the pictures of the README from the real window: docs/pictures.sh, then look at docs/*.png.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+source packaging/setup.sh
+
+need build run screen test
+build release firststep
+
+# Starts the program on a display of its own, lets "$2..." act on it and takes the picture $1.
+picture() {
+  local name=$1
+  shift
+  local ready
+  ready=$(mktemp)
+  Xvfb -displayfd 3 -screen 0 1366x768x24 -noreset 3>"$ready" >/dev/null 2>&1 &
+  local server=$!
+  until [[ -s $ready ]]; do sleep 0.1; done
+  export DISPLAY=:$(<"$ready")
+  rm "$ready"
+  build/release/firststep 2>/dev/null &
+  local program=$!
+  until xdotool search --onlyvisible --name "first explanation" >/dev/null 2>&1; do sleep 0.1; done
+  sleep 1
+  "$@"
+  sleep 0.5
+  xdotool mousemove 1300 700
+  import -window root -crop 866x730+0+0 +repage -strip +dither -colors 128 "docs/$name.png"
+  kill $program $server
+  wait $program $server 2>/dev/null || true
+}
+
+keys() { for key in "$@"; do xdotool key "$key"; sleep 0.2; done; }
+click() { xdotool mousemove "$1" "$2" click 1; sleep 0.3; }
+
+curvature() { # the circle at a point between crest and trough
+  click 72 8
+  keys Down Return
+  click 295 278
+}
+
+guess() { # a force from the crest, forward and down
+  click 72 8
+  keys Down Down Return
+  xdotool mousemove 221 265 keydown shift mousedown 1 mousemove 330 360
+  sleep 0.2
+  xdotool mouseup 1 keyup shift
+}
+
+factors() {
+  click 160 8
+  click 60 686
+}
+
+evolution() { # from rest, slowly, 20 steps to a unit of time: the labels read 3, 5, 7
+  click 641 660
+  keys Home
+  click 368 648
+  for _ in {1..17}; do keys Left; done
+  click 160 8
+  click 60 660
+  click 230 624
+  for _ in 1 2 3; do keys Prior; done
+  click 80 622
+  sleep 2
+}
+
+picture opening true
+picture curvature curvature
+picture guess guess
+picture factors factors
+picture evolution evolution
