@@ -24,7 +24,7 @@ struct QtWindow : testing::Test {
   toolkit::qt::QtDesktop desktop{*qApp};
   std::unique_ptr<app::firststep> window = app::Main(desktop);
   Log log;
-  QTimer watch;  // looks for a message box
+  QTimer watch;  // does something once the event loop runs
 
   QWidget& Frame() {
     const auto tops = QApplication::topLevelWidgets();
@@ -94,7 +94,8 @@ TEST_F(QtWindow, MirrorsTheStateThroughTheCases) {
   const QImage seen = Find("eikona").grab().toImage();
   EXPECT_EQ(seen.pixelColor(1, 1), QColor(1, 0, 66));
   EXPECT_EQ(seen.pixelColor(seen.width() - 2, seen.height() - 2), QColor(1, 0, 66));
-  QMetaObject::invokeMethod(&Frame(), &QWidget::close, Qt::QueuedConnection);
+  watch.callOnTimeout(&Frame(), &QWidget::close);
+  watch.start(0);
   EXPECT_EQ(desktop.Run(), 0);
   EXPECT_TRUE(window->events.Ended());
 }

@@ -95,7 +95,7 @@ void QtCanvas::Text(Point topLeft, const std::string& text, Colour colour) {
 }
 
 // A line in the background colour erases. Crisp, with its square ends, it covers every pixel that a
-// smooth line two pixels thinner has touched at the same place.
+// smooth line a pixel or more thinner has touched at the same place.
 Ink QtCanvas::InkOf(const Pen& pen) const {
   return {Rgb(pen.colour), pen.colour != background_};
 }
