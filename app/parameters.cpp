@@ -24,14 +24,12 @@ void firststep::epitaxyno_Change() {
   Label3.Caption = "Επιτρόχιος επιτάχυνση = " + Format(epitaxyno.Value / 10.0, 1);
   eikona.Cls();
   scenes::DrawFactorsScene(*this);
-  FollowTrack();
 }
 
 void firststep::arxikives_Change() {
   Label4.Caption = "Αρχική ταχύτητα= " + Format(arxikives.Value, 0);
   eikona.Cls();
   scenes::DrawFactorsScene(*this);
-  FollowTrack();
 }
 
 }  // namespace app

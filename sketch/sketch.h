@@ -73,6 +73,8 @@ class Sketch : public toolkit::PictureBox {
   // One dot of the current width, in the foreground colour unless another is given.
   void PSet(double x, double y) { PSet(x, y, ForeColor); }
   void PSet(double x, double y, Colour colour);
+  // The side of such a dot, in the canvas's pixels.
+  int DotSide() const { return canvas() != nullptr ? canvas()->DotSide(DrawWidth) : DrawWidth; }
   // Dots in the foreground colour at places that ToPixels has given.
   void PSetPixels(std::span<const toolkit::Point> places);
   // Where user coordinates are on the canvas as it is now.

@@ -8,11 +8,11 @@ namespace {
 
 using toolkit::Point;
 
-// Wherever a canvas draws the line between two pixels, for dots of even width and of odd width, it
-// does so at a half or a whole pixel: two places in one half cover the same pixels.
-bool SamePixels(Point a, Point b) {
-  return std::floor(2.0 * a.x) == std::floor(2.0 * b.x) &&
-         std::floor(2.0 * a.y) == std::floor(2.0 * b.y);
+// Whether dots of this side cover the same pixels at both places.
+bool SamePixels(Point a, Point b, int side) {
+  const double shift = side % 2 == 0 ? 0.0 : 0.5;
+  return std::floor(a.x + shift) == std::floor(b.x + shift) &&
+         std::floor(a.y + shift) == std::floor(b.y + shift);
 }
 
 // Room for the widest dot on the densest screen.
@@ -36,9 +36,10 @@ void Trail::Change(std::size_t index) {
 void Trail::Draw(Sketch& sketch, std::span<const double> xs, std::span<const double> ys,
                  std::size_t first, std::size_t count) {
   if (count == 0) return;
-  if (!(mapping_ == sketch.ToPixels())) {
+  if (!(mapping_ == sketch.ToPixels()) || side_ != sketch.DotSide()) {
     Change(0);
     mapping_ = sketch.ToPixels();
+    side_ = sketch.DotSide();
   }
   Map(xs, ys, first + count);
   // Something may have been drawn over the dot before the first one, so that one is always drawn.
@@ -52,7 +53,8 @@ void Trail::Map(std::span<const double> xs, std::span<const double> ys, std::siz
   for (; mapped_ < end; ++mapped_) {
     const Point place = mapping_(xs[mapped_], ys[mapped_]);
     if (!Shows(place, mapping_.size)) continue;
-    if (mapped_ > 0 && SamePixels(mapping_(xs[mapped_ - 1], ys[mapped_ - 1]), place)) continue;
+    if (mapped_ > 0 && SamePixels(mapping_(xs[mapped_ - 1], ys[mapped_ - 1]), place, side_))
+      continue;
     places_.push_back(place);
     indices_.push_back(static_cast<std::uint32_t>(mapped_));
   }

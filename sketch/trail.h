@@ -25,6 +25,7 @@ class Trail {
   std::size_t KeptBefore(std::size_t index) const;
 
   Mapping mapping_{};
+  int side_ = 0;            // of a dot, in pixels
   std::size_t mapped_ = 0;  // entries of the row that have been looked at
   std::vector<toolkit::Point> places_;
   std::vector<std::uint32_t> indices_;  // of the places in the row

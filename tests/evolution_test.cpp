@@ -136,7 +136,7 @@ struct Motion : Program {
       if (found < got.size() && near(got[found], want[i], 1e-6)) {
         ++found;
       } else if (std::abs(want[i].x - 10) < 10.1) {
-        ASSERT_TRUE(i > 0 && near(want[i - 1], want[i], 0.51)) << "dot " << i << " is missing";
+        ASSERT_TRUE(i > 0 && near(want[i - 1], want[i], 1.0)) << "dot " << i << " is missing";
       }
     }
     EXPECT_EQ(found, got.size());

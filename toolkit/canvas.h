@@ -52,6 +52,10 @@ class Canvas {
   virtual ~Canvas() = default;
 
   virtual Extent Size() const = 0;
+  // The side of the square that a dot of a pen this wide fills, in the canvas's own pixels. A square
+  // of odd side stands around the pixel nearest to the place, one of even side around the nearest
+  // corner of pixels.
+  virtual int DotSide(int penWidth) const = 0;
   virtual void Clear(Colour background) = 0;
   virtual void Line(Point from, Point to, const Pen& pen) = 0;
   virtual void Circle(const CircleShape& circle, const Pen& pen) = 0;

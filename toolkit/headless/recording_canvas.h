@@ -27,6 +27,7 @@ class RecordingCanvas : public Canvas {
   std::vector<Operation> operations;
 
   Extent Size() const override;
+  int DotSide(int penWidth) const override { return penWidth; }
   void Clear(Colour background) override;
   void Line(Point from, Point to, const Pen& pen) override;
   void Circle(const CircleShape& circle, const Pen& pen) override;

@@ -53,6 +53,10 @@ const QImage& QtCanvas::Look() {
   return image_;
 }
 
+int QtCanvas::DotSide(int penWidth) const {
+  return std::max(1, qRound(penWidth * ratio_));
+}
+
 void QtCanvas::Clear(Colour background) {
   background_ = background;
   image_.fill(Rgb(background));
@@ -81,14 +85,17 @@ void QtCanvas::Circle(const CircleShape& circle, const Pen& pen) {
 }
 
 void QtCanvas::Dots(std::span<const Point> places, const Pen& pen) {
-  FillSquares(image_, places, std::max(1, qRound(pen.width * ratio_)), Rgb(pen.colour));
+  FillSquares(image_, places, DotSide(pen.width), Rgb(pen.colour));
   Touch();
 }
 
 void QtCanvas::Text(Point topLeft, const std::string& text, Colour colour) {
-  // Beyond the right or lower edge nothing shows, and beyond the others by far neither.
+  // What lies beyond an edge is not even looked up: a body far away leaves hundreds of labels
+  // there. No glyph is wider than two, no line higher than two of the font's sizes.
+  const double twoSizes = 2.0 * fontPoints_ * (96.0 / 72.0) * ratio_;
+  const double widest = twoSizes * static_cast<double>(text.size());
   if (!(topLeft.x < image_.width() && topLeft.y < image_.height())) return;
-  if (!(topLeft.x > -1e6 && topLeft.y > -1e3)) return;
+  if (!(topLeft.x > -widest && topLeft.y > -twoSizes)) return;
   const TextTiles::Tile& tile = tiles_.Of(text, colour);
   Darken(image_, tile.image, qRound(topLeft.x) + tile.left, qRound(topLeft.y));
   Touch();

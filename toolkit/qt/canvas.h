@@ -28,6 +28,7 @@ class QtCanvas : public Canvas {
   const QImage& Look();
 
   Extent Size() const override { return {image_.width(), image_.height()}; }
+  int DotSide(int penWidth) const override;
   void Clear(Colour background) override;
   void Line(Point from, Point to, const Pen& pen) override;
   // A circle within a pixel of its centre may leave a single dot.

@@ -1,4 +1,3 @@
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
 
@@ -89,10 +88,7 @@ class Builder : public ControlVisitor {
   }
 
   void Visit(TextBox& box) override {
-    auto* shown = new QPlainTextEdit(&client_);
-    shown->setTabChangesFocus(true);
-    shown->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    shown->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* shown = new TextWidget(&client_);
     // Handlers may set several texts; what is left after the last is spoken.
     auto* changed = new QTimer(shown);
     changed->setSingleShot(true);
@@ -104,7 +100,7 @@ class Builder : public ControlVisitor {
       shown->setPlainText(text);
       changed->start(0);
     });
-    QObject::connect(shown, &QPlainTextEdit::textChanged, shown,
+    QObject::connect(shown, &TextWidget::textChanged, shown,
                      [&box, shown] { box.UserEdit(shown->toPlainText().toStdString()); });
   }
 

@@ -29,16 +29,23 @@ void FillSquares(QImage& picture, std::span<const Point> places, int side, QRgb 
   // Moved so that every square that shows has positive coordinates: cutting off the fraction then
   // rounds downward, and numbers too large for an int are sorted out before.
   const double shift = side - (side - 1) / 2.0 + 0.5;
+  // Alone, because a path has thousands of single pixels.
+  if (side == 1) {
+    for (const Point& place : places) {
+      const double x = place.x + shift;
+      const double y = place.y + shift;
+      if (x >= 1.0 && y >= 1.0 && x < width + 1 && y < height + 1) {
+        bits[(static_cast<int>(y) - 1) * stride + static_cast<int>(x) - 1] = colour;
+      }
+    }
+    return;
+  }
   for (const Point& place : places) {
     const double x = place.x + shift;
     const double y = place.y + shift;
     if (!(x >= 0.0 && x < width + side && y >= 0.0 && y < height + side)) continue;
     const int left = static_cast<int>(x) - side;
     const int top = static_cast<int>(y) - side;
-    if (side == 1) {
-      if (left >= 0 && top >= 0) bits[top * stride + left] = colour;
-      continue;
-    }
     const Overlap columns(left, side, width);
     const Overlap rows(top, side, height);
     for (int row = rows.begin; row < rows.end; ++row) {

@@ -33,11 +33,11 @@ void Blend(QRgb& pixel, const Ink& ink, double outside) {
   pixel = Mixed(pixel, ink.colour, static_cast<unsigned>(static_cast<int>(cover * 256.0)));
 }
 
-// The whole numbers from 0 to limit - 1 that lie no farther than `reach` from `middle`.
+// The whole numbers from 0 to limit - 1 that lie less than `reach` from `middle`. By cutting off
+// fractions: rounding calls a function on processors of the first generation.
 struct Run {
   Run(double middle, double reach, int limit)
-      : begin(Held(std::ceil(middle - reach), limit)),
-        end(Held(std::floor(middle + reach) + 1.0, limit)) {}
+      : begin(Held(middle - reach + 1.0, limit)), end(Held(middle + reach + 1.0, limit)) {}
 
   static int Held(double edge, int limit) {
     return static_cast<int>(std::min(std::max(edge, 0.0), static_cast<double>(limit)));
@@ -130,14 +130,17 @@ void PaintLine(QImage& picture, Point from, Point to, double width, const Ink& i
                steep ? picture.height() : picture.width());
   const double aside = (width + 1.0) / 2.0 / std::abs(du);
   const int limitV = steep ? picture.width() : picture.height();
+  // Farther in than this no pixel across the line is touched by its ends.
+  const double inner = length * std::abs(du) / 2.0 - width - 2.0;
   for (int u = us.begin; u < us.end; ++u) {
     const double offU = u - middle.x;
+    const bool nearEnd = std::abs(offU) > inner;
     const Run vs(middle.y + offU * dv / du, aside, limitV);
     for (int v = vs.begin; v < vs.end; ++v) {
       const double offV = v - middle.y;
-      const double sideways = std::abs(offU * dv - offV * du);
-      const double beyondEnd = std::abs(offU * du + offV * dv) - length / 2.0;
-      Blend(bits[u * alongU + v * alongV], ink, std::max(sideways, beyondEnd) - width / 2.0);
+      double outside = std::abs(offU * dv - offV * du);
+      if (nearEnd) outside = std::max(outside, std::abs(offU * du + offV * dv) - length / 2.0);
+      Blend(bits[u * alongU + v * alongV], ink, outside - width / 2.0);
     }
   }
 }

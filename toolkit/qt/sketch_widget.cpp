@@ -69,8 +69,8 @@ void SketchWidget::paintEvent(QPaintEvent*) {
   if (const auto at = pointer()) PaintPointer(painter, *at);
 }
 
-// A ring around the place and a dashed line to the tip, on a white edge that keeps them visible on
-// any ink.
+// A ring around the place and a dashed line to a small one at the tip, on a white edge that keeps
+// them visible on any ink.
 void SketchWidget::PaintPointer(QPainter& painter, const KeyPointer& at) const {
   const double ratio = canvas_.Ratio();
   const auto on = [&](Point place) {
@@ -93,6 +93,7 @@ void SketchWidget::PaintPointer(QPainter& painter, const KeyPointer& at) const {
   for (const QPen& pen : {halo, ink}) {
     painter.setPen(pen);
     painter.drawEllipse(on(at.place), 7.0 * ratio, 7.0 * ratio);
+    if (at.tip) painter.drawEllipse(on(*at.tip), 2.0 * ratio, 2.0 * ratio);
   }
 }
 

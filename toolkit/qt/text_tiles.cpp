@@ -25,17 +25,14 @@ void TextTiles::SetFont(const QFont& font) {
 }
 
 const TextTiles::Tile& TextTiles::Of(const std::string& text, Colour colour) {
-  std::string key = text;
-  for (const std::uint8_t part : {colour.red, colour.green, colour.blue}) {
-    key.push_back(static_cast<char>(part));
-  }
-  const auto found = tiles_.find(key);
+  if (!(colour == colour_) || tiles_.size() >= kMostTiles) tiles_.clear();
+  colour_ = colour;
+  const auto found = tiles_.find(text);
   if (found != tiles_.end()) return found->second;
-  if (tiles_.size() >= kMostTiles) tiles_.clear();
-  return tiles_.emplace(std::move(key), Render(text, colour)).first->second;
+  return tiles_.emplace(text, Render(text)).first->second;
 }
 
-TextTiles::Tile TextTiles::Render(const std::string& text, Colour colour) const {
+TextTiles::Tile TextTiles::Render(const std::string& text) const {
   const QString line = QString::fromStdString(text);
   const QFontMetrics metrics(font_);
   const QRect ink = metrics.boundingRect(line);
@@ -45,7 +42,7 @@ TextTiles::Tile TextTiles::Render(const std::string& text, Colour colour) const 
   image.fill(Qt::white);
   QPainter painter(&image);
   painter.setFont(font_);
-  painter.setPen(QColor(Rgb(colour)));
+  painter.setPen(QColor(Rgb(colour_)));
   painter.drawText(-left, metrics.ascent(), line);
   return {image, left};
 }

@@ -22,13 +22,14 @@ class TextTiles {
   // Every later tile is in this font; those of another one are dropped.
   void SetFont(const QFont& font);
 
-  // Valid until the next call.
+  // Valid until the next call. Another colour drops the tiles of the last: a sketch has one.
   const Tile& Of(const std::string& text, Colour colour);
 
  private:
-  Tile Render(const std::string& text, Colour colour) const;
+  Tile Render(const std::string& text) const;
 
   QFont font_;
+  Colour colour_{};
   std::unordered_map<std::string, Tile> tiles_;
 };
 

@@ -64,6 +64,25 @@ void ScrollWidget::wheelEvent(QWheelEvent* event) {
   event->accept();
 }
 
+TextWidget::TextWidget(QWidget* parent) : QPlainTextEdit(parent) {
+  setTabChangesFocus(true);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+// The paint event that comes here is the frame's, the text's goes to the viewport.
+bool TextWidget::event(QEvent* event) {
+  const bool done = QPlainTextEdit::event(event);
+  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
+    update();
+  } else if (event->type() == QEvent::Paint && hasFocus()) {
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+  return done;
+}
+
 OptionWidget::OptionWidget(QWidget* parent) : QRadioButton(parent) {
   setAutoExclusive(false);
   setFocusPolicy(Qt::StrongFocus);

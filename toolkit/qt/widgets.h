@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QWidget>
@@ -33,6 +34,15 @@ class ScrollWidget : public QScrollBar {
 
  private:
   int wheel_ = 0;  // what has been turned since the last whole notch
+};
+
+// A page of text that shows when it has the keyboard, not by its cursor alone.
+class TextWidget : public QPlainTextEdit {
+ public:
+  explicit TextWidget(QWidget* parent);
+
+ protected:
+  bool event(QEvent* event) override;
 };
 
 // A radio button whose text wraps, which can be clicked all over its box, and whose mark is set by
