@@ -5,6 +5,7 @@
 there() {
   case $1 in
     pkg:*) pkg-config --exists "${1#pkg:}" ;;
+    python:*) python3 -c "import ${1#python:}" ;;
     font:*) fc-list : family | grep -q "${1#font:}" ;;
     *) command -v "$1" ;;
   esac >/dev/null 2>&1

@@ -9,12 +9,11 @@ import sys
 import tempfile
 from contextlib import ExitStack
 
-from end_to_end_test import Screen, expect, running, until
+from end_to_end_test import PATIENCE, Screen, expect, running, until
 
-SCENE = "The track with its circles of curvature at the first crest"
-MENU = {("menu item", name) for name in
-        ("back", "CASES", "TIME DEPENDENT", "STOP", "CONTINUE", "end")}
-OPENING = MENU | {
+CURVATURE = "The track with its circles of curvature at the first crest"
+OPENING = {("menu item", name) for name in
+           ("back", "CASES", "TIME DEPENDENT", "STOP", "CONTINUE", "end")} | {
     ("frame", "first explanation"), ("menu bar", ""), ("canvas", "Sketch"), ("text", "Explanation"),
     ("scroll bar", "Amplitude", 1, 20, 35), ("label", "Amplitude value: Πλάτος =2.0"),
     ("scroll bar", "Frequency", 1, 15, 60), ("label", "Frequency value: Συχνότης=1.5"),
@@ -22,114 +21,126 @@ OPENING = MENU | {
     ("label", "Tangential acceleration value: Επιτρόχιος επιτάχυνση= 2.00"),
     ("scroll bar", "Initial speed", 0, 3, 15),
     ("label", "Initial speed value: Αρχική ταχύτητα = 3")}
-TAB_ORDER = ["Explanation", "Time evolution", "Factors that influence acceleration", "Start", "Step",
-             "Time steps per unit of time", "Sketch"]
+TAB_ORDER = ["Explanation", "Time evolution", "Factors that influence acceleration", "Start",
+             "Step", "Time steps per unit of time", "Sketch"]
 
 
-def inside(path):
-    import pyatspi
-    from gi.repository import GLib
+def all_below(node):
+    return [each for child in node if child for each in (child, *all_below(child))]
 
-    heard = []
 
-    def all_below(node):
-        for child in node:
-            if child is not None:
-                yield child
-                yield from all_below(child)
+class Reader:
+    """What a screen reader has of the program: its controls, and the events heard so far."""
 
-    def controls():
-        """What the program has on the bus; the events so far have arrived."""
+    def __init__(self):
+        self.desktop, self.heard = pyatspi.Registry.getDesktop(0), []
+        pyatspi.Registry.registerEventListener(
+            lambda event: self.heard.append(f"{event.type} {event.source.name} "
+                                            f"{event.source.description} {event.any_data}"),
+            "object:text-changed", "object:property-change", "object:state-changed:showing")
+
+    def controls(self):
         while GLib.MainContext.default().iteration(False):
             pass
-        return list(all_below(next((a for a in desktop if a and a.name == "firststep"), [])))
+        return [node for program in self.desktop if program and program.name == "firststep"
+                for node in all_below(program)]
 
-    def has(node, state):
-        return node.getState().contains(state)
+    def find(self, name):
+        return next(node for node in self.controls() if node.name == name)
 
-    def described(node):
-        kind = (node.getRoleName(), node.name)
-        if kind[0] != "scroll bar":
-            return kind
-        value = node.queryValue()
-        return *kind, value.minimumValue, value.currentValue, value.maximumValue
+    def shows(self, *what, nothing_else=False):
+        missing = []
 
-    def showing():
-        return {described(node) for node in controls() if has(node, pyatspi.STATE_SHOWING)
-                and node.getRoleName() not in ("filler", "notification")}
+        def differs():
+            shown = {described(node) for node in self.controls() if has(node, "SHOWING")
+                     and node.getRoleName() not in ("filler", "notification")}
+            missing[:] = shown ^ set(what) if nothing_else else set(what) - shown
+            return missing
 
-    def find(name):
-        return next(node for node in controls() if node.name == name)
+        until(lambda: not differs(), missing)
 
-    def press(name):
-        find(name).queryAction().doAction(0)
+    def hears(self, kind, words):
+        until(lambda: self.controls() and any(kind in event and words in event
+                                              for event in self.heard), f"not heard: {words}")
 
-    def hears(kind, words):
-        until(lambda: controls() and any(kind in event and words in event for event in heard),
-              f"{words} not heard")
+    def press(self, name):
+        self.find(name).queryAction().doAction(0)
 
-    def shows(*what):
-        until(lambda: set(what) <= showing(), f"{what} not shown")
 
-    def focused(name):
-        until(lambda: has(find(name), pyatspi.STATE_FOCUSED), f"{name} has not the focus")
+def described(node):
+    kind = (node.getRoleName(), node.name)
+    if kind[0] != "scroll bar":
+        return kind
+    value = node.queryValue()
+    return *kind, value.minimumValue, value.currentValue, value.maximumValue
 
+
+def has(node, state):
+    return node.getState().contains(getattr(pyatspi, "STATE_" + state))
+
+
+def test(screen, path):
     def keys(*names):
         screen.ask("xdotool", "key", *names)
 
-    with ExitStack() as cleanup:
-        screen = Screen(cleanup)
-        screen.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
-        cleanup.enter_context(running("openbox", "--sm-disable", env=screen.environment))
-        until(lambda: b"id #" in screen.ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "no WM")
-        desktop = pyatspi.Registry.getDesktop(0)
-        pyatspi.Registry.registerEventListener(
-            lambda event: heard.append(f"{event.type} {event.source.name} "
-                                       f"{event.source.description} {event.any_data}"),
-            "object:text-changed", "object:property-change", "object:state-changed:showing")
-        program = cleanup.enter_context(running(path, env=screen.environment))
-        until(lambda: showing() == OPENING, "the opening controls differ")
-        until(lambda: find("Sketch").description.startswith(SCENE), "the sketch is not described")
+    def focused(name):
+        until(lambda: has(reader.find(name), "FOCUSED"), f"{name} has not the focus")
+
+    reader = Reader()
+    with running(path, env=screen.environment) as program:
+        reader.shows(*OPENING, nothing_else=True)
+        sketch = reader.find("Sketch")
+        expect(sketch.description.startswith(CURVATURE), sketch.description)
         focused("Sketch")
 
-        find("Amplitude").queryValue().currentValue = 30
-        shows(("scroll bar", "Amplitude", 1, 30, 35), ("label", "Amplitude value: Πλάτος =3.0"))
-        hears("accessible-description", "fifteen stations")
-        press("TIME DEPENDENT")
-        shows(("radio button", "Time evolution"))
-        press("Time evolution")
-        shows(("push button", "Start"), ("label", "Time step value: Δt = 0.02"))
-        expect(has(find("Time evolution"), pyatspi.STATE_CHECKED), "the option is not checked")
-        press("Step")
-        hears("accessible-description", "The motion in time")
+        screen.photograph()
+        before = screen.pixels
+        reader.find("Amplitude").queryValue().currentValue = 30
+        reader.shows(("scroll bar", "Amplitude", 1, 30, 35),
+                     ("label", "Amplitude value: Πλάτος =3.0"))
+        reader.hears("accessible-description", "fifteen stations")
+        until(lambda: screen.photograph() or screen.pixels != before, "the picture is the same")
+        reader.press("TIME DEPENDENT")
+        reader.shows(("radio button", "Time evolution"))
+        reader.press("Time evolution")
+        reader.shows(("push button", "Start"), ("label", "Time step value: Δt = 0.02"))
+        expect(has(reader.find("Time evolution"), "CHECKED"), "the option is not checked")
+        reader.press("Step")
+        reader.hears("accessible-description", "The motion in time")
 
-        press("GUESS A FORCE")
-        expect(has(find("GUESS A FORCE"), pyatspi.STATE_CHECKED), "the case is not checked")
-        find("Sketch").queryComponent().grabFocus()
-        focused("Sketch")
+        reader.press("GUESS A FORCE")
+        until(lambda: has(reader.find("GUESS A FORCE"), "CHECKED"), "the case is not checked")
         keys("Return")
-        hears("accessible-description", "the circle of curvature at x = 6.0, y = 3.0")
-        hears("text-changed:insert", "Click on the diagram")
-        hears("showing", "Click on the diagram")
+        reader.hears("accessible-description", "the circle of curvature at x = 6.0, y = 3.0")
+        for kind in ("text-changed:insert", "showing"):
+            reader.hears(kind, "Click on the diagram")
         screen.ask("xdotool", "keydown", "shift", "key", "Up", "Up", "keyup", "shift")
-        hears("showing", "FORCE: HAS WRONG DIRECTION FOR THE SHAPE OF THE CURVE")
+        reader.hears("showing", "FORCE: HAS WRONG DIRECTION FOR THE SHAPE OF THE CURVE")
         for name in TAB_ORDER:
             keys("Tab")
             focused(name)
         keys("shift+Tab", "Right")
-        shows(("scroll bar", "Time steps per unit of time", 10, 51, 300))
+        reader.shows(("scroll bar", "Time steps per unit of time", 10, 51, 300))
         keys("alt+c", "r")
-        until(lambda: find("Sketch").description.startswith(SCENE), "the case has not changed")
-        expect("=RADIUS OF" in find("Explanation").queryText().getText(0, -1), "another text")
+        until(lambda: reader.find("Sketch").description.startswith(CURVATURE), "the old case")
+        expect("=RADIUS OF" in reader.find("Explanation").queryText().getText(0, -1), "old text")
         keys("alt+e")
-        expect(program.wait(60) == 0, f"the program ended with status {program.returncode}")
+        expect(program.wait(PATIENCE) == 0, f"the program ended with status {program.returncode}")
 
 
 if "inside" in sys.argv:
-    inside(sys.argv[1])
+    import pyatspi
+    from gi.repository import GLib
+
+    with ExitStack() as cleanup:
+        display = Screen(cleanup)
+        display.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        cleanup.enter_context(running("openbox", "--sm-disable", env=display.environment))
+        until(lambda: b"id #" in display.ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "no WM")
+        test(display, sys.argv[1])
     sys.exit(0)
-# Debian's own interpreter has the bindings; another one may come before it.
-PYTHON = next((p for p in ("/usr/bin/python3", sys.executable) if os.path.exists(p)))
+# Debian's own interpreter has the bindings; another one may stand before it.
+PYTHON = next(p for p in ("/usr/bin/python3", sys.executable) if os.path.exists(p))
 NEEDED = ("Xvfb", "dbus-run-session", "openbox", "xdotool")
 if not all(map(shutil.which, NEEDED)) or subprocess.call([PYTHON, "-c", "import pyatspi"]):
     print("needs", *NEEDED, "and pyatspi")
