@@ -27,7 +27,7 @@ const std::vector<Arguments>& RandomArguments() {
 template <class Integral>
 void OverAllArguments(benchmark::State& state, Integral integral) {
   const auto& arguments = RandomArguments();
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     double sum = 0.0;
     for (const Arguments& a : arguments) sum += integral(a);
     benchmark::DoNotOptimize(sum);
@@ -49,7 +49,7 @@ void PhaseSearch(benchmark::State& state) {
   const double k = 0.46;
   const double quarter = track::ArcLength(track::Pi / 2.0, k);
   double S = 0.0;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     S = S > 8.0 ? 0.0 : S + 0.01;
     benchmark::DoNotOptimize(track::PhaseAtArcLength(S, k, quarter));
   }

@@ -29,7 +29,7 @@ struct Bench {
 void FactorsScene(benchmark::State& state) {
   Bench bench(static_cast<int>(state.range(0)));
   int value = 0;
-  for (auto _ : state) bench.window->syxnotikamp.UserScroll(1 + value++ % 60);
+  for ([[maybe_unused]] auto _ : state) bench.window->syxnotikamp.UserScroll(1 + value++ % 60);
 }
 BENCHMARK(FactorsScene)->Arg(810)->Arg(1620)->Unit(benchmark::kMicrosecond);
 
@@ -45,7 +45,7 @@ void EvolutionStep(benchmark::State& state) {
   w.Command1.UserClick();
   for (int step = 1; step < N; ++step) w.VIMA.UserClick();
   const double time = w.module.ElapsedTime;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     w.module.StepCount = N - 1;
     w.module.ElapsedTime = time;
     w.VIMA.UserClick();
@@ -64,7 +64,7 @@ void PointScene(benchmark::State& state) {
   point.y = 2;
   point.normal = {0.6, 0.8};
   point.radius = std::pow(10.0, static_cast<double>(state.range(0)));
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     w.eikona.UserMouseUp({1, 0, place});
     scenes::DrawCircleOfCurvature(w.eikona, point);
   }

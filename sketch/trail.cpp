@@ -53,8 +53,10 @@ void Trail::Map(std::span<const double> xs, std::span<const double> ys, std::siz
   for (; mapped_ < end; ++mapped_) {
     const Point place = mapping_(xs[mapped_], ys[mapped_]);
     if (!Shows(place, mapping_.size)) continue;
-    if (mapped_ > 0 && SamePixels(mapping_(xs[mapped_ - 1], ys[mapped_ - 1]), place, side_))
-      continue;
+    if (mapped_ > 0) {
+      const Point before = mapping_(xs[mapped_ - 1], ys[mapped_ - 1]);
+      if (SamePixels(before, place, side_)) continue;
+    }
     places_.push_back(place);
     indices_.push_back(static_cast<std::uint32_t>(mapped_));
   }

@@ -1,5 +1,6 @@
 #include "window/format.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -12,14 +13,14 @@ constexpr int kFaithfulDigits = 15;
 
 // Adds one to the last digit of a decimal numeral.
 void CountUp(std::string& digits) {
-  for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit) {
-    if (*digit != '9') {
-      ++*digit;
-      return;
-    }
-    *digit = '0';
+  const std::size_t grows = digits.find_last_not_of('9');
+  if (grows == std::string::npos) {
+    digits.assign(digits.size() + 1, '0');
+    digits.front() = '1';
+  } else {
+    ++digits[grows];
+    std::fill(digits.begin() + static_cast<std::ptrdiff_t>(grows) + 1, digits.end(), '0');
   }
-  digits.insert(digits.begin(), '1');
 }
 
 }  // namespace
