@@ -17,14 +17,14 @@ namespace track {
 
 // RF(x, y, z) = 1/2 * integral from 0 to infinity of dt / sqrt((t + x)(t + y)(t + z)).
 // Domain: x, y, z >= 0, no two of them summing to less than 1.5e-38 while one is positive.
-// Relative error below 3e-8 (measured: 1.0e-8 at most).
+// Relative error at most 6.4e-9 (measured on 3 million triples over 40 decades, long double).
 // Outside: a negative argument or a tiny pairwise sum is reported, result 0. RF(0, 0, 0) =
 // +infinity; an infinite argument gives 0, the limit; NaN gives NaN.
 double CarlsonRF(double x, double y, double z);
 
 // RD(x, y, z) = 3/2 * integral from 0 to infinity of dt / (sqrt((t + x)(t + y)) * (t + z)^(3/2)).
 // Domain: x, y >= 0, z > 0, x + y > 0.
-// Relative error below 3e-8 (measured: 1.6e-8 at most).
+// Relative error at most 5e-10 (measured likewise).
 // Outside: a negative argument, or a pairwise sum below 1.5e-25 together with an argument above
 // 4.5e21, is reported, result 0. RD(0, 0, z) and RD(x, y, 0) = +infinity; an infinite argument
 // gives 0, the limit; NaN gives NaN.
