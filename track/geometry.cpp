@@ -48,11 +48,6 @@ double CentripetalAcceleration(double speed, double curvature) {
   return speed * speed * curvature;
 }
 
-double ExactArcLength(const Parameters& track, double x) {
-  const Ellipse ellipse(track.amplitude * track.frequency);
-  return ellipse.stretch / track.frequency * ArcLength(track.frequency * x, ellipse.modulus);
-}
-
 double AbscissaAtDistance(const Parameters& track, double distance) {
   const Ellipse ellipse(track.amplitude * track.frequency);
   const double quarter = ArcLength(Pi / 2.0, ellipse.modulus);

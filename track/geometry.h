@@ -49,12 +49,10 @@ TrackPoint PointAt(const Parameters& track, double x);
 // Centripetal acceleration v^2 * curvature along the normal; its sign says toward which side.
 double CentripetalAcceleration(double speed, double curvature);
 
-// The distance from the origin along the track, exact: K*E(w*x, k) with k = A*w/sqrt(1 + (A*w)^2)
-// and K = sqrt(1 + (A*w)^2)/w.
-double ExactArcLength(const Parameters& track, double x);
-
-// The x whose exact arc length is `distance`, the inverse of ExactArcLength (to about 1e-11 in
-// phase, or within 1e-4 of a quarter period's middle; see PhaseAtArcLength). Any distance.
+// The x at this distance from the origin along the track, by the exact rule: the distance to x is
+// K*E(w*x, k) with k = A*w/sqrt(1 + (A*w)^2) and K = sqrt(1 + (A*w)^2)/w. Good to about 1e-11 in
+// phase, or to 1e-4 where the search's first guess is as near (see PhaseAtArcLength). Any distance;
+// negative ones lie behind the origin.
 double AbscissaAtDistance(const Parameters& track, double distance);
 
 // The distance as the pictures without time count it: K*E(w*x, k) with k = A/sqrt(1 + A^2) and
