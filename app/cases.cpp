@@ -20,6 +20,7 @@ void firststep::ShowParameterValues() {
   Label2.Caption = "Συχνότης=" + Format(syxnotikamp.Value / 10.0, 1);
   Label3.Caption = "Επιτρόχιος επιτάχυνση= " + Format(epitaxyno.Value / 10.0, 2);
   Label1.Caption = "Πλάτος =" + Format(platosvalue.Value / 10.0, 1);
+  Label4.Caption = "Αρχική ταχύτητα = " + Format(arxikives.Value, 0);
 }
 
 void firststep::ShowTimeEvolution(bool shown) {
@@ -48,7 +49,6 @@ void firststep::Form_Load() {
   // Not selected at design time, so selecting it runs Option3_Click to its end first.
   Option3.Value = true;
   Command1.Visible = false;
-  Label4.Caption = "Αρχική ταχύτητα = " + Format(arxikives.Value, 0);
   window::StandardScale(eikona);
   eikona.Cls();
   scenes::DrawFactorsScene(*this);
@@ -64,7 +64,6 @@ void firststep::Option3_Click() {
   Label4.Visible = true;
   ShowTimeEvolution(false);
   ShowParameterValues();
-  Label4.Caption = "Αρχική ταχύτητα = " + Format(arxikives.Value, 0);
   window::StandardScale(eikona);
   eikona.Cls();
   scenes::DrawFactorsScene(*this);

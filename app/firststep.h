@@ -59,6 +59,7 @@ struct firststep : window::Controls {
   void ShowParameterValues();
   void ShowTimeEvolution(bool shown);
   void ShowEmptySketch();
+  void RedrawFactors();
   void MovePointer(toolkit::Key key);
   void PutPointerOnTrack();
   void FollowTrack();

@@ -41,12 +41,13 @@ std::string PlaceText(double x, double y) {
 }  // namespace
 
 void firststep::eikona_KeyDown(Key key, short Shift) {
+  const int others = Shift & ~toolkit::kShiftMask;
   const bool arrow = DirectionOf(key).has_value();
   if (arrow && Shift == toolkit::kShiftMask && GUESSFORCE.Checked) {
     PullForce(key);
   } else if (key == Key::ShiftReleased || key == Key::Cancel) {
     // Letting go of SHIFT alone releases the force; without it there is nothing to judge.
-    ReleaseForce(key == Key::ShiftReleased ? toolkit::kShiftMask : 0);
+    ReleaseForce(key == Key::ShiftReleased && others == 0 ? toolkit::kShiftMask : 0);
   } else if (key == Key::Pick) {
     ReleaseForce(0);
     MovePointer(key);

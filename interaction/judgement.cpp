@@ -70,7 +70,7 @@ Judgement Judge(const track::Motion& motion, const track::Vector& force) {
   judgement.rightForShape = motion.centripetalArrow.Dot(force) > 0.0;
   if (motion.centripetal != 0.0) {
     const track::Vector inward = motion.point.normal * (motion.centripetal < 0.0 ? -1.0 : 1.0);
-    const double needed = motion.speed * motion.speed * std::abs(motion.point.curvature);
+    const double needed = std::abs(motion.centripetal);
     judgement.extraForShape = inward * (needed - force.Dot(inward));
   }
   if (track::Length(tangential) != 0.0 || motion.speed != 0.0) {

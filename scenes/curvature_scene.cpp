@@ -9,9 +9,7 @@ namespace scenes {
 void DrawCurvatureScene(window::Controls& firststep) {
   sketch::Sketch& eikona = firststep.eikona;
   const track::Parameters track = window::TrackParameters(firststep);
-  eikona.Description =
-      "The track with its circles of curvature at the first crest and the first trough, and the "
-      "velocity and acceleration there";
+  eikona.Description = "The track; the body stops before the first crest";
   DrawTrack(eikona, track);
   for (const double phase : {track::Pi / 2.0, 3.0 * track::Pi / 2.0}) {
     const auto motion = track::MotionAt(track, phase / track.frequency);
@@ -22,7 +20,13 @@ void DrawCurvatureScene(window::Controls& firststep) {
     DrawArrow(eikona, place, motion->velocity, colours::kVelocity);
     DrawArrow(eikona, place, motion->centripetalArrow, colours::kCentripetal);
     DrawArrow(eikona, place, motion->tangentialArrow, colours::kTangential);
+    eikona.Description =
+        "The track with its circle of curvature at the first crest, and the velocity and "
+        "acceleration there; the body stops before the first trough";
   }
+  eikona.Description =
+      "The track with its circles of curvature at the first crest and the first trough, and the "
+      "velocity and acceleration there";
   firststep.Text1.Text =
       "The centripetal acceleration is directed towards the convex of the curve. The TANGENTIAL "
       "acceleration is directed according to the tangent, the circles are drawn with a radius "

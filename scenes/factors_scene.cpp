@@ -2,6 +2,7 @@
 
 #include "scenes/parts.h"
 #include "track/motion.h"
+#include "window/format.h"
 
 namespace scenes {
 namespace {
@@ -23,14 +24,20 @@ void DrawStation(sketch::Sketch& eikona, const track::Motion& motion) {
 void DrawFactorsScene(window::Controls& firststep) {
   sketch::Sketch& eikona = firststep.eikona;
   const track::Parameters track = window::TrackParameters(firststep);
-  eikona.Description =
-      "The track with the velocity, the centripetal and the total acceleration at fifteen stations";
   for (int sample = 0; sample < kTrackSamples; ++sample) {
     const auto motion = track::MotionAt(track, SampleAbscissa(sample));
-    if (!motion) return;
+    if (!motion) {
+      eikona.Description =
+          "The track with the velocity, the centripetal and the total acceleration, as far as the "
+          "body comes: it stops at x = " +
+          window::Format(SampleAbscissa(sample - 1), 1);
+      return;
+    }
     eikona.PSet(motion->point.x, motion->point.y);
     if (sample % kSamplesPerStation == 0) DrawStation(eikona, *motion);
   }
+  eikona.Description =
+      "The track with the velocity, the centripetal and the total acceleration at fifteen stations";
   firststep.Text1.Text =
       "The centripetal acceleration has a direction towards the convex of the curve."
       "  You can study the effect of CURVATURE  on respect of the MEASURE of CENTRIPETAL "

@@ -23,8 +23,8 @@ void DrawTrack(sketch::Sketch& sketch, const track::Parameters& track) {
 
 void DrawCircleOfCurvature(sketch::Sketch& sketch, const track::TrackPoint& point) {
   sketch.DrawStyle = sketch::kDotted;
-  sketch.CircleThrough(point.x, point.y, point.normal.x, point.normal.y, point.radius,
-                       colours::kCurvature);
+  sketch.Circle(point.x, point.y, point.normal.x, point.normal.y, point.radius,
+                colours::kCurvature);
   sketch.DrawStyle = sketch::kSolid;
 }
 

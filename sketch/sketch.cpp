@@ -1,8 +1,8 @@
 #include "sketch/sketch.h"
 
 #include <cmath>
+#include <limits>
 
-#include "toolkit/arc.h"
 #include "toolkit/clip.h"
 
 namespace sketch {
@@ -74,17 +74,7 @@ void Sketch::Line(double x1, double y1, double x2, double y2, Colour colour) {
   canvas()->Line(from, to, {colour, DrawWidth, DrawStyle == kDotted});
 }
 
-void Sketch::Circle(double x, double y, double radius, Colour colour) {
-  const double middleX = (x1_ + x2_) / 2.0;
-  const double middleY = (y1_ + y2_) / 2.0;
-  if (!Finite(x, y) || !std::isfinite(radius) || !Finite(middleX, middleY)) return;
-  const toolkit::CircleShape shape =
-      toolkit::CircleAround({x, y}, std::abs(radius), {middleX, middleY});
-  CircleThrough(shape.touch.x, shape.touch.y, shape.towardCentre.x, shape.towardCentre.y,
-                shape.radius, colour);
-}
-
-void Sketch::CircleThrough(double x, double y, double nx, double ny, double radius, Colour colour) {
+void Sketch::Circle(double x, double y, double nx, double ny, double radius, Colour colour) {
   if (canvas() == nullptr || radius == 0.0 || !Finite(nx, ny)) return;
   const Mapping& map = ToPixels();
   const Point touch = map(x, y);
@@ -118,11 +108,13 @@ void Sketch::Print(const std::string& text) {
 void Sketch::Raise(const MouseHandler& handler, const toolkit::MouseEvent& event) {
   if (!handler || canvas() == nullptr) return;
   const Mapping& map = ToPixels();
-  const auto x = static_cast<float>((event.place.x - map.originX) / map.factorX);
-  const auto y = static_cast<float>((event.place.y - map.originY) / map.factorY);
+  const double x = (event.place.x - map.originX) / map.factorX;
+  const double y = (event.place.y - map.originY) / map.factorY;
   // A press nowhere is no press: nothing that is no number gets into what the handlers store.
-  if (!Finite(x, y)) return;
-  handler(static_cast<short>(event.button), static_cast<short>(event.shift), x, y);
+  constexpr double kLargest = std::numeric_limits<float>::max();
+  if (!(std::abs(x) <= kLargest && std::abs(y) <= kLargest)) return;
+  handler(static_cast<short>(event.button), static_cast<short>(event.shift), static_cast<float>(x),
+          static_cast<float>(y));
 }
 
 }  // namespace sketch

@@ -64,12 +64,10 @@ class Sketch : public toolkit::PictureBox {
   // Erases the whole drawing.
   void Cls();
   void Line(double x1, double y1, double x2, double y2, Colour colour);
-  // A full circle. A radius is measured on the x axis; 0 draws nothing.
-  void Circle(double x, double y, double radius, Colour colour);
-  // The circle through (x, y) whose centre lies `radius` times the unit vector (nx, ny) from there;
-  // a signed radius of curvature along the normal says on which side. It passes through the point
-  // at any radius, where the centre alone would round it away.
-  void CircleThrough(double x, double y, double nx, double ny, double radius, Colour colour);
+  // The full circle through (x, y) whose centre lies `radius` times the unit vector (nx, ny) from
+  // there; a signed radius of curvature along the normal says on which side. It passes through the
+  // point at any radius, where the centre alone would round it away.
+  void Circle(double x, double y, double nx, double ny, double radius, Colour colour);
   // One dot of the current width, in the foreground colour unless another is given.
   void PSet(double x, double y) { PSet(x, y, ForeColor); }
   void PSet(double x, double y, Colour colour);

@@ -57,8 +57,7 @@ TEST(Sketch, NothingInfiniteReachesTheCanvas) {
   for (int i = 0; i < 9 * 9 * 9 * 9; ++i) {
     const double a = odd[i % 9], b = odd[i / 9 % 9], c = odd[i / 81 % 9], d = odd[i / 729];
     sketch::DrawVector(a, b, c, d, s, 0, 0, 0);
-    s.CircleThrough(a, b, c, 0, d, kRed);
-    s.Circle(a, b, c, kRed);
+    s.Circle(a, b, c, 0, d, kRed);
     s.PSet(s.CurrentX = a, s.CurrentY = b);
     s.Print("x");
   }

@@ -44,29 +44,4 @@ Point PointOfArc(const CircleShape& circle, double angle) {
           circle.touch.y + along * t.y + height * circle.towardCentre.y};
 }
 
-std::vector<Point> PointsAlong(const CircleShape& circle, const VisibleArc& arc, double spacing) {
-  std::vector<Point> points;
-  if (arc.end < arc.begin) return points;
-  const double angle = arc.end - arc.begin;
-  const int steps = std::max(1, static_cast<int>(std::ceil(angle * circle.radius / spacing)));
-  points.reserve(static_cast<std::size_t>(steps) + 1);
-  for (int i = 0; i <= steps; ++i) {
-    points.push_back(PointOfArc(circle, arc.begin + angle * i / steps));
-  }
-  return points;
-}
-
-CircleShape CircleAround(Point centre, double radius, Point near) {
-  // The distance to the centre and the radius are nearly equal when a huge circle passes by: only
-  // the longer mantissa keeps their difference.
-  const long double dx = static_cast<long double>(centre.x) - near.x;
-  const long double dy = static_cast<long double>(centre.y) - near.y;
-  const long double d = std::hypot(dx, dy);
-  if (d == 0.0L) return {{near.x + radius, near.y}, {-1.0, 0.0}, radius};
-  const long double gap = d - radius;
-  return {{static_cast<double>(near.x + dx / d * gap), static_cast<double>(near.y + dy / d * gap)},
-          {static_cast<double>(dx / d), static_cast<double>(dy / d)},
-          radius};
-}
-
 }  // namespace toolkit

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <vector>
-
 #include "toolkit/canvas.h"
 
 namespace toolkit {
@@ -25,11 +23,5 @@ VisibleArc ArcInDisc(const CircleShape& circle, Point middle, double reach);
 // The point of the circle at this angle. Its height over the tangent is 2*r*sin^2(angle/2), which
 // keeps the digits that r - r*cos(angle) would lose.
 Point PointOfArc(const CircleShape& circle, double angle);
-
-// Points along the arc, at most `spacing` pixels apart, both ends included; empty for an empty arc.
-std::vector<Point> PointsAlong(const CircleShape& circle, const VisibleArc& arc, double spacing);
-
-// The circle by centre and radius as a shape whose touch point is the one nearest to `near`.
-CircleShape CircleAround(Point centre, double radius, Point near);
 
 }  // namespace toolkit

@@ -24,10 +24,6 @@ struct Point {
 struct CircleShape {
   Point touch, towardCentre;
   double radius;
-
-  Point Centre() const {
-    return {touch.x + radius * towardCentre.x, touch.y + radius * towardCentre.y};
-  }
 };
 
 struct Pen {
@@ -52,9 +48,9 @@ class Canvas {
   virtual ~Canvas() = default;
 
   virtual Extent Size() const = 0;
-  // The side of the square that a dot of a pen this wide fills, in the canvas's own pixels. A square
-  // of odd side stands around the pixel nearest to the place, one of even side around the nearest
-  // corner of pixels.
+  // The side of the square that a dot of a pen this wide fills, in the canvas's own pixels. A
+  // square of odd side stands around the pixel nearest to the place, one of even side around the
+  // nearest corner of pixels.
   virtual int DotSide(int penWidth) const = 0;
   virtual void Clear(Colour background) = 0;
   virtual void Line(Point from, Point to, const Pen& pen) = 0;

@@ -45,7 +45,6 @@ class Component : public Changeable {
 
  protected:
   EventQueue& Events() { return site_.events; }
-  ControlSite& Site() { return site_; }
 
  private:
   ControlSite& site_;

@@ -19,7 +19,6 @@ class EventQueue {
   void End();
 
   bool Ended() const { return ended_; }
-  bool Running() const { return running_; }
 
  private:
   std::deque<std::function<void()>> waiting_;

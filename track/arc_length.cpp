@@ -26,8 +26,8 @@ constexpr double kNotFound = std::numeric_limits<double>::quiet_NaN();
 // E(Pi/2, k) of the modulus that was asked for last. A picture asks for the same one four hundred
 // times, a search for a phase sixty times.
 double CompleteE(double k) {
-  thread_local double known = kNotFound;
-  thread_local double value = 0.0;
+  static double known = kNotFound;
+  static double value = 0.0;
   if (k != known) {
     value = EllipticE(Pi / 2.0, k);
     known = k;

@@ -18,12 +18,13 @@ inline constexpr double Pi = std::numbers::pi;
 // against the standard library).
 // Outside: taken by the sine and cosine of phi, which is not the integral; k > 1 may be reported as
 // invalid (see carlson.h); NaN where an argument is NaN or infinite.
-// Source: Carlson (1979); with s = sin(phi), E = s*(RF(cos^2, q, 1) - (sk)^2 * RD(cos^2, q, 1)/3) and
-// q = 1 - (sk)^2.
+// Source: Carlson (1979); with s = sin(phi), E = s*(RF(cos^2, q, 1) - (sk)^2 * RD(cos^2, q, 1)/3)
+// and q = 1 - (sk)^2.
 double EllipticE(double phi, double k);
 
 // E(u, k) for every phase: odd, increasing, growing by 2*E(Pi/2, k) in each half period.
-// Infinite u gives itself, NaN gives NaN.
+// Infinite u gives itself, NaN gives NaN. E(Pi/2, k) of the last modulus is remembered: for use on
+// one thread.
 double ArcLength(double u, double k);
 
 // The phase u with ArcLength(u, k) = S, where Q = ArcLength(Pi/2, k) places the first guess.

@@ -12,8 +12,8 @@ namespace track {
 // (1979).
 //
 // Both take plain numbers and return a plain number. On invalid arguments they call
-// InvalidArgumentsReport() and return 0. Whatever the arguments, they return after at most
-// kMaxDuplications rounds for each scale of the arguments.
+// InvalidArgumentsReport() and return 0. Whatever the arguments, they return after at most 60
+// rounds, twice that for arguments near the largest double.
 
 // RF(x, y, z) = 1/2 * integral from 0 to infinity of dt / sqrt((t + x)(t + y)(t + z)).
 // Domain: x, y, z >= 0, no two of them summing to less than 1.5e-38 while one is positive.

@@ -4,6 +4,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "toolkit/qt/frame.h"
+
 namespace toolkit::qt {
 namespace {
 
@@ -59,8 +61,8 @@ bool SketchWidget::event(QEvent* event) {
 void SketchWidget::paintEvent(QPaintEvent*) {
   FitCanvas();
   QPainter painter(this);
-  const QPalette::ColorRole frame = hasFocus() ? QPalette::Highlight : QPalette::Dark;
-  painter.fillRect(rect(), palette().color(frame));
+  painter.fillRect(rect(), palette().base());
+  PaintFrame(painter, rect(), palette().color(hasFocus() ? QPalette::Highlight : QPalette::Dark));
   // Without the ratio's scale the picture goes to whole device pixels, one for one.
   const double ratio = canvas_.Ratio();
   painter.scale(1.0 / ratio, 1.0 / ratio);

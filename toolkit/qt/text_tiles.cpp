@@ -9,8 +9,8 @@
 namespace toolkit::qt {
 namespace {
 
-// More than the labels of the longest run, and still only a few megabytes.
-constexpr std::size_t kMostTiles = 1024;
+// More than the 417 labels of the longest run. A label takes some 9 kilobytes at ratio 1.
+constexpr std::size_t kMostTiles = 512;
 
 }  // namespace
 

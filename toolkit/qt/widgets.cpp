@@ -6,6 +6,7 @@
 #include <QStylePainter>
 #include <QWheelEvent>
 
+#include "toolkit/qt/frame.h"
 #include "toolkit/qt/wrapped_text.h"
 
 namespace toolkit::qt {
@@ -31,8 +32,7 @@ ScrollWidget::ScrollWidget(Qt::Orientation orientation, QWidget* parent)
 void ScrollWidget::paintEvent(QPaintEvent* event) {
   QScrollBar::paintEvent(event);
   QPainter painter(this);
-  painter.setPen(palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  PaintFrame(painter, rect(), palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
 }
 
 // Qt's own scroll bar moves to the right with the left arrow, as it inverts both pairs for the sake
@@ -64,8 +64,20 @@ void ScrollWidget::wheelEvent(QWheelEvent* event) {
   event->accept();
 }
 
+void MenuBarWidget::paintEvent(QPaintEvent* event) {
+  QMenuBar::paintEvent(event);
+  QPainter painter(this);
+  if (activeAction() != nullptr) {
+    painter.setClipRegion(QRegion(rect()) - actionGeometry(activeAction()));
+  }
+  painter.setPen(palette().color(QPalette::Window).darker(112));
+  painter.drawLine(0, height() - 1, width(), height() - 1);
+}
+
 TextWidget::TextWidget(QWidget* parent) : QPlainTextEdit(parent) {
   setTabChangesFocus(true);
+  setFrameShape(QFrame::NoFrame);
+  setViewportMargins(1, 1, 1, 1);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
@@ -75,10 +87,11 @@ bool TextWidget::event(QEvent* event) {
   const bool done = QPlainTextEdit::event(event);
   if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
     update();
-  } else if (event->type() == QEvent::Paint && hasFocus()) {
+  } else if (event->type() == QEvent::Paint) {
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Highlight));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.fillRect(rect(), palette().base());
+    const QColor idle = palette().color(QPalette::Window).darker(130);
+    PaintFrame(painter, rect(), hasFocus() ? palette().color(QPalette::Highlight) : idle);
   }
   return done;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -7,7 +8,8 @@
 
 namespace toolkit::qt {
 
-// A text that wraps inside its box and paints nothing behind it.
+// A text that wraps inside its box and paints nothing behind it: the boxes of the layout overlap,
+// and an empty part of one must not hide a neighbour's text.
 class LabelWidget : public QWidget {
  public:
   using QWidget::QWidget;
@@ -34,6 +36,16 @@ class ScrollWidget : public QScrollBar {
 
  private:
   int wheel_ = 0;  // what has been turned since the last whole notch
+};
+
+// A menu bar whose line below is whole. The style draws it item by item, each too short where the
+// item ends between two device pixels.
+class MenuBarWidget : public QMenuBar {
+ public:
+  using QMenuBar::QMenuBar;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
 };
 
 // A page of text that shows when it has the keyboard, not by its cursor alone.

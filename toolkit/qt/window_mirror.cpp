@@ -1,7 +1,6 @@
 #include "toolkit/qt/window_mirror.h"
 
 #include <QCloseEvent>
-#include <QMenuBar>
 #include <QWindow>
 
 #include "toolkit/qt/control_mirror.h"
@@ -9,6 +8,7 @@
 #include "toolkit/qt/text.h"
 #include "toolkit/qt/timer_mirror.h"
 #include "toolkit/qt/twips.h"
+#include "toolkit/qt/widgets.h"
 
 namespace toolkit::qt {
 namespace {
@@ -23,6 +23,7 @@ constexpr int kSettlingLooks = 100;
 WindowMirror::WindowMirror(Window& window) : window_(window) {
   setObjectName(Text(window.Name));
   setWindowTitle(Text(window.Caption));
+  setMenuBar(new MenuBarWidget(this));
   menuBar()->setNativeMenuBar(false);
   setContextMenuPolicy(Qt::PreventContextMenu);
   auto* client = new QWidget(this);
