@@ -75,7 +75,7 @@ int main(int argc, char** argv) {
   text->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   text->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   Place(text, {48 + side, 16, 225, 465}, true, 16);
-  Place(new QRadioButton("Eξήγηση για τριβή", client), {16, under, 121, 33}, true);
+  Place(new QRadioButton("Eξήγηση για τριβή", client), {16, under, 121, 33}, false);
   Place(new QRadioButton("XPONIKH EXELIXH", client), {16, under + 33, 177, 33}, false);
   Place(new QRadioButton("FACTORS THAT INFLUENCE ACCELERATION", client), {16, under + 66, 177, 33},
         false);

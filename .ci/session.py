@@ -1,0 +1,200 @@
+#!/usr/bin/env python3
+"""Plays a session of all cases on the real window, and ends it in the middle of a run: once by the
+menu, once through the window manager. session.py PROGRAM [strace]
+
+Every action must change the picture, and the program must end with status 0; built with the
+sanitizers it reports what it leaks, too. Under strace it must open no file for writing, make no
+socket but those that the libraries under it need, and leave nothing behind."""
+
+import hashlib
+import os
+import re
+import subprocess
+import sys
+import tempfile
+import time
+from contextlib import contextmanager
+
+WIDTH, HEIGHT = 1366, 768
+PATIENCE = 60  # seconds
+TOP, UNDER = 36, 611  # of the sketch's inside, and the rows of controls under it
+QUIET = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
+
+# Sockets of the libraries under the program: the display, the C library's cache of user names, the
+# session's and the system's message buses.
+OTHERS_SOCKETS = r"/tmp/\.X11-unix/X|/nscd/socket|/bus$|/dbus"
+# The terminal's null device and fontconfig's own cache of the fonts it has found.
+OTHERS_WRITES = r"^/dev/null$|/fontconfig(/|$)"
+CHANGES = ("creat|(mk|rm)dir(at)?|rename(at|at2)?|(un|sym)?link(at)?|truncate|mknod(at)?|"
+           "f?chmod(at)?|f?chown(at)?")
+
+
+def place(x, y):
+    """Where the sketch's point (x, y) is in the window, for xdotool."""
+    return [str(round(49 + x / 20 * 573)), str(round(TOP + (10 - y) / 20 * 573))]
+
+
+def click(x, y):
+    return ["mousemove", "--window", "WINDOW", str(x), str(y), "click", "1"]
+
+
+def drag(start, end):
+    return ["mousemove", "--window", "WINDOW", *place(*start), "keydown", "shift", "mousedown", "1",
+            "mousemove", "--window", "WINDOW", *place(*end), "mouseup", "1", "keyup", "shift"]
+
+
+# With one notch more each the amplitude is 2.1 and the frequency 16 degrees: a crest at 5.625.
+CREST = 90 / 16, 2.1
+SESSION = [
+    ("choose the time", ["key", "alt+t"]),
+    ("the factors", click(60, UNDER + 82)),
+    ("more frequency", click(393, UNDER + 12)),
+    ("more tangential acceleration", click(393, UNDER + 37)),
+    ("more amplitude", click(535, UNDER + 90)),
+    ("more initial speed", click(641, UNDER + 90)),
+    ("the cases", ["key", "alt+c"]),
+    ("the radius of curvature", ["key", "r"]),
+    ("a point on the track", click(*place(*CREST))),
+    ("the cases again", ["key", "alt+c"]),
+    ("guess a force", ["key", "g"]),
+    ("a point to guess at", click(*place(*CREST))),
+    ("a force", drag(CREST, (8, -1))),
+    ("choose the time again", ["key", "alt+t"]),
+    ("the evolution", click(60, UNDER + 49)),
+    ("smaller steps", click(267, UNDER + 12)),
+    ("a step", click(150, UNDER + 12)),
+    ("start", click(84, UNDER + 12)),
+    ("stop", ["key", "alt+s"]),
+    ("continue", ["key", "alt+o"]),
+    ("stop again", ["key", "alt+s"]),
+    ("back", ["key", "alt+b"]),
+    ("the evolution again", click(60, UNDER + 49)),
+    ("start again", click(84, UNDER + 12)),
+]
+ENDS = {'"end"': "alt+e", "the window manager": "alt+F4"}
+
+
+def until(attempt, what):
+    end = time.monotonic() + PATIENCE
+    while not (result := attempt()):
+        if time.monotonic() > end:
+            sys.exit(f"FAILED: {what}, after {PATIENCE} seconds")
+        time.sleep(0.05)
+    return result
+
+
+@contextmanager
+def running(*command, **options):
+    with subprocess.Popen(command, stdin=subprocess.DEVNULL, **options) as process:
+        try:
+            yield process
+        finally:
+            process.kill()
+
+
+class Screen:
+    def __init__(self, display, home):
+        here = os.path.dirname(os.path.abspath(__file__))
+        self.environment = {
+            "PATH": os.environ["PATH"], "DISPLAY": f":{display}", "QT_QPA_PLATFORM": "xcb",
+            # Without a bus, libdbus would start one that outlives us all.
+            "DBUS_SESSION_BUS_ADDRESS": "disabled:", "HOME": home, "XDG_RUNTIME_DIR": home,
+            "LSAN_OPTIONS": f"suppressions={here}/../tests/leaks.supp:print_suppressions=0"}
+
+    def ask(self, *command):
+        return subprocess.run(command, env=self.environment, timeout=PATIENCE, check=False,
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
+
+    def picture(self):
+        return hashlib.md5(self.ask("import", "-silent", "-window", "root", "ppm:-")).digest()
+
+    def settled(self):
+        """The picture when it has stopped to change, or whatever it is after a while."""
+        picture, end = None, time.monotonic() + 1
+        while (last := picture) != (picture := self.picture()) and time.monotonic() < end:
+            pass
+        return picture
+
+
+def play(screen, command, how):
+    with running(*command, env=screen.environment) as program:
+        window = until(lambda: screen.ask("xdotool", "search", "--onlyvisible", "--name",
+                                          "^first explanation$"), "no window").decode().split()[0]
+        until(lambda: screen.ask("xdotool", "getactivewindow").decode().strip() == window,
+              "the window is not active")
+        for what, action in SESSION:
+            before = screen.settled()
+            screen.ask("xdotool", *(window if word == "WINDOW" else word for word in action))
+            until(lambda before=before: screen.picture() != before, f"no change by: {what}")
+        screen.ask("xdotool", "key", ENDS[how])
+        status = program.wait(PATIENCE)
+        if status != 0:
+            sys.exit(f"FAILED: ended by {how} with status {status}")
+
+
+def examine(log):
+    """What the system calls say: faults, and what the libraries do on their own account."""
+    faults, others = set(), set()
+    for line in log:
+        call = re.match(r"(\d+) +(\w+)\((.*)\) = (-?\d+)(.*)", line)
+        if not call or (int(call[4]) < 0 and "EINPROGRESS" not in call[5]):
+            continue
+        name, arguments = call[2], call[3]
+        path = re.search(r'@?"([^"]*)"', arguments)
+        where = path[1] if path else ""
+        if re.fullmatch(CHANGES, name) or re.search(r"O_(WRONLY|RDWR|CREAT|TRUNC)", arguments):
+            (others if re.search(OTHERS_WRITES, where) else faults).add(f"{name} {where}")
+        elif name == "socket" and "AF_UNIX" not in arguments:
+            faults.add(f"socket {arguments}")
+        elif name in ("connect", "bind"):
+            (others if re.search(OTHERS_SOCKETS, where) else faults).add(f"{name} {arguments}")
+        elif name in ("shmget", "memfd_create"):
+            others.add(f"{name} {arguments}")
+    return sorted(faults), sorted(others)
+
+
+def left_behind(log, home):
+    pids = {line.split()[0] for line in log}
+    with open("/proc/sysvipc/shm", encoding="ascii") as segments:
+        left = [f"shared memory {fields[1]}" for fields in map(str.split, segments)
+                if fields[4] in pids]
+    return left + [f"process {pid}" for pid in pids if os.path.exists(f"/proc/{pid}")] + [
+        f"file {name}" for name in os.listdir(home) if name != ".cache"]
+
+
+@contextmanager
+def managed_display(scratch):
+    """The number of a new display with a window manager."""
+    reader, writer = os.pipe()
+    with running("Xvfb", "-displayfd", str(writer), "-screen", "0", f"{WIDTH}x{HEIGHT}x24",
+                 "-noreset", pass_fds=[writer], **QUIET):
+        os.close(writer)
+        with os.fdopen(reader) as number:
+            display = number.readline().strip()
+        screen = Screen(display, scratch)
+        with running("openbox", "--sm-disable", env=screen.environment, **QUIET):
+            until(lambda: b"window id" in screen.ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
+                  "no window manager")
+            yield display
+
+
+def main(program, tracer=None):
+    with tempfile.TemporaryDirectory() as scratch, managed_display(scratch) as display:
+        for how in ENDS:
+            home, trace = tempfile.mkdtemp(dir=scratch), os.path.join(scratch, "trace")
+            calls = "trace=%file,%network,shmget,memfd_create,fchmod,fchown"
+            wrapper = ["strace", "-f", "--seccomp-bpf", "-e", calls, "-o", trace] if tracer else []
+            play(Screen(display, home), [*wrapper, program], how)
+            if tracer:
+                with open(trace, encoding="utf-8", errors="replace") as log:
+                    lines = list(log)
+                faults, others = examine(lines)
+                faults += left_behind(lines, home)
+                print("The libraries' own:", *others, sep="\n  ")
+                if faults or not others:
+                    sys.exit("\n  ".join(["FAILED: the program's own:", *faults]))
+            print(f"{len(SESSION)} actions, ended by {how} in the middle of a run: good")
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])
