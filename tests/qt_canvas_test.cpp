@@ -37,7 +37,7 @@ TEST(QtCanvas, DotsAreCrispSquaresUpToTheCorners) {
 
 TEST(QtCanvas, WhiteLineLeavesNothingOfAThinnerOne) {
   for (int i = 0; i < 2500; ++i) {
-    const double ratio = kRatios[i % 5], angle = i * std::numbers::pi / 32 + i / 500 * 1e-3;
+    const double ratio = kRatios[i % 5], angle = i * (std::numbers::pi / 32 + 2e-6);
     const double length = ratio * (i % 7 == 0 ? 0.2 : 3.1) * (i % 11);
     const Point from{35 * ratio + 0.17 * (i % 6), 35 * ratio + 0.23 * (i % 13)};
     const Point to{from.x + length * std::cos(angle), from.y + length * std::sin(angle)};
@@ -114,8 +114,9 @@ TEST(QtCanvas, PictureOutlivesTheMoveToAnotherScreenButNotAnotherSize) {
   sheet.Resize({60, 60}, 2.0);
   sheet.Line({20, 90.5}, {100, 90.5}, {kInk, 1});
   std::string seen;
-  for (const int y : {61, 89, 90, 91, 92})
+  for (const int y : {61, 89, 90, 91, 92}) {
     seen += sheet.Look().pixelColor(60, y).name().toStdString();
+  }
   EXPECT_EQ(seen, "#ff0000#ffffff#010042#010042#ffffff");
   sheet.Resize({61, 61}, 2.0);
   EXPECT_EQ(sheet.Look(), Sheet(61, 2.0).Look());

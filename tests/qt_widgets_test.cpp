@@ -23,7 +23,7 @@ struct QtWindow : testing::Test, QObject {
 
   // A program that has ended leaves the application told to quit; the next test starts afresh.
   void TearDown() override {
-    QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(qApp, "quit", Qt::QueuedConnection);
     QApplication::exec();
   }
   void timerEvent(QTimerEvent* event) override {
@@ -80,17 +80,14 @@ TEST_F(QtWindow, MirrorsTheStateThroughTheCases) {
   for (const QPoint& place : {Find("Option1").rect().bottomRight(), first}) {
     QTest::mouseClick(&Find("Option1"), LeftButton, {}, place), ExpectMirrored();
   }
-  for (const auto& [name, key] : {std::pair{"Option1", Key_Space},
-                                  {"Option1", Key_Down},
-                                  {"Option2", Key_Right},
-                                  {"Option3", Key_Right},
-                                  {"Option1", Key_Up}}) {
-    QTest::keyClick(&Find(name), key), ExpectMirrored();
-  }
+  const auto type = [](const char* name, Qt::Key key) { QTest::keyClick(&Find(name), key); };
+  type("Option1", Key_Space), type("Option1", Key_Down), type("Option2", Key_Right);
+  type("Option3", Key_Right), type("Option1", Key_Up);
+  ExpectMirrored();
   // A case that is chosen again keeps its mark.
   for (int i = 0; i < 2; ++i) {
-    choose(bar, window->periptoseis),
-        choose(*Action(window->periptoseis).menu(), window->GUESSFORCE);
+    choose(bar, window->periptoseis);
+    choose(*Action(window->periptoseis).menu(), window->GUESSFORCE);
   }
   window->Text1.Text = "", window->Label1.Left = 1506, window->Label1.Width = 156;
   QTest::keyClicks(&Find("Text1"), "v = 3"), window->vimatimi.Value = 77;
@@ -129,10 +126,9 @@ TEST_F(QtWindow, ScrollBarsFollowKeysWheelAndThumb) {
 }
 
 TEST_F(QtWindow, MouseButtonsKeepTheirNumbersKeysAndPlaces) {
-  using Heard = std::vector<std::vector<long>>;
-  Heard heard;
+  std::vector<long> heard;
   window->eikona.MouseDown = [&](short button, short shift, float x, float y) {
-    heard.push_back({button, shift, std::lround(x * 100), std::lround(y * 100)});
+    heard.insert(heard.end(), {button, shift, std::lround(x * 100), std::lround(y * 100)});
   };
   window->eikona.MouseUp = window->eikona.MouseDown;
   QTest::mousePress(&eikona, LeftButton, Qt::ShiftModifier, first);
@@ -140,11 +136,8 @@ TEST_F(QtWindow, MouseButtonsKeepTheirNumbersKeysAndPlaces) {
   QTest::mouseRelease(&eikona, RightButton, {}, first);
   QTest::mouseRelease(&eikona, LeftButton, {}, 2 * last - first);
   QTest::mouseDClick(&eikona, MiddleButton, {}, first);
-  EXPECT_EQ(heard, (Heard{{1, 1, 0, 1000},
-                          {2, 6, 2000, -1000},
-                          {2, 0, 0, 1000},
-                          {1, 0, 4000, -3000},
-                          {4, 0, 0, 1000}}));
+  EXPECT_EQ(heard, (std::vector<long>{1, 1,    0, 1000, 2,    6,     2000, -1000, 2, 0,
+                                      0, 1000, 1, 0,    4000, -3000, 4,    0,     0, 1000}));
 }
 
 // A verdict that stands there already changes nothing when it is printed again.
@@ -158,9 +151,8 @@ TEST_F(QtWindow, ShiftDragShowsTheForceAndItsVerdict) {
     EXPECT_EQ(seen.pixelColor(crest + QPoint(-1, pull / 2)), Qt::blue);
     for (const bool real : {true, false}) {
       window->eikona.CurrentX = 2, window->eikona.CurrentY = 8;
-      window->eikona.Print((pull > 0) == real
-                               ? "FORCE: HAS THE CORRECT DIRECTION FOR THE SHAPE OF THE CURVE"
-                               : "FORCE: HAS WRONG DIRECTION FOR THE SHAPE OF THE CURVE");
+      const std::string verdict = (pull > 0) == real ? "THE CORRECT" : "WRONG";
+      window->eikona.Print("FORCE: HAS " + verdict + " DIRECTION FOR THE SHAPE OF THE CURVE");
       EXPECT_EQ(Picture() == seen, real);
     }
   }
