@@ -130,4 +130,18 @@ TEST(Evolution, StopsContinuesAndStartsOver) {
   run.ExpectStill(), run.Step();
 }
 
+// From rest the distances in equal times are as the odd numbers; a = 0.3, marks 3 time units apart.
+TEST(Evolution, LabelsFromRestReadThreeFiveSeven) {
+  Journey run(20, 15, 0, 3, 20);
+  auto& w = *run.window;
+  w.Command1.UserClick();
+  while (w.module.StepCount < 239) run.desktop.Tick();
+  run.Forget(), run.desktop.Tick();
+  std::string said;
+  for (const auto& text : run.Texts()) said += text.text + "|";
+  for (const char* ratio : {"Ds = 3.00 X", "Ds = 5.00 X", "Ds = 7.00 X"}) {
+    EXPECT_NE(said.find(ratio), std::string::npos) << said;
+  }
+}
+
 }  // namespace

@@ -128,4 +128,28 @@ TEST(Interaction, JudgesAnywhere) {
   }
 }
 
+// Worked out by hand: at the crest friction points left, the acceleration right and down; in the
+// trough right and up.
+TEST(Interaction, GivesTheVerdictsWorkedOutByHand) {
+  const struct {
+    double x, y, along, up;
+    bool wrongTangential, rightShape;
+  } table[] = {{6, 2, 5, -0.5, false, true}, {6, 2, 5, 0.5, false, false},
+               {6, 2, 2, -1, true, true},    {6, 2, -2, -1, true, true},
+               {6, 2, -2, 1, true, false},   {6, 2, 0, -3, true, true},
+               {6, 2, 0, 3, true, false},    {6, 2, 0, 0, true, false},
+               {18, -2, 5, 1, false, true},  {18, -2, 5, -1, false, false}};
+  for (const auto& row : table) {
+    Program p;
+    p.window->GUESSFORCE.UserClick();
+    p.Press(row.x, row.y), p.Forget(), p.Release(row.x + row.along, row.y + row.up, 1);
+    std::string said;
+    for (const auto& text : p.Texts()) said += text.text;
+    const auto has = [&](const char* verdict) { return said.find(verdict) != std::string::npos; };
+    EXPECT_EQ(has("INCORRECT FOR THE TANGENTIAL"), row.wrongTangential) << row.along << row.up;
+    EXPECT_EQ(has("CORRECT DIRECTION FOR THE SHAPE"), row.rightShape) << row.along << row.up;
+    EXPECT_EQ(has("WRONG DIRECTION FOR THE SHAPE"), !row.rightShape) << row.along << row.up;
+  }
+}
+
 }  // namespace
