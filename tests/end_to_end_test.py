@@ -13,16 +13,13 @@ from subprocess import DEVNULL, PIPE, Popen, run
 
 TITLE, WIDTH, HEIGHT = "first explanation", 1366, 768
 PATIENCE = 60  # seconds, enough for a slow machine with the sanitizers
-# The inks and where they are seen, in sketch units. The circles belong to the crest at (6, 2) and
-# the trough at (18, -2).
-RADIUS = 72 / math.pi**2
+WHITE = (255, 255, 255)
+# The inks and where they are seen, in sketch units, away from all others.
 OPENING = {
-    (1, 0, 66): [(x, 2 * math.sin(math.pi * x / 12)) for x in (0.6, 1, 1.5, 2, 10, 11, 12, 13, 14)],
-    (250, 0, 150): [(x + side * RADIUS * math.sin(a), side * (2 - RADIUS + RADIUS * math.cos(a)))
-                    for x, side in ((6, 1), (18, -1)) for a in (0.6, 0.7, 0.8, 1.1, 1.3, 1.4)],
-    (255, 0, 0): [(7.3, 2), (10, 2), (12.8, 2), (12.77, 2.145), (12.77, 1.855), (19.5, -2)],
-    (5, 150, 255): [(6, 1.6), (6, 0), (6, -1.2), (18, -1.6), (18, 3), (18, 6.7),
-                    (6.75, 2.145), (6.75, 1.855), (18.75, -1.855), (18.75, -2.145)]}
+    (1, 0, 66): [(1, 0.518), (2, 1), (10, 1), (12, 0), (14, -1)],
+    (250, 0, 150): [(0.84, -0.14), (11.16, -0.14), (13.3, -5.3), (10.7, 5.3), (12.84, 0.14)],
+    (255, 0, 0): [(7.3, 2), (12.8, 2), (12.77, 2.145), (12.77, 1.855), (19.5, -2)],
+    (5, 150, 255): [(6, 1.6), (6, -1.2), (18, -1.6), (18, 6.7), (6.75, 2.145), (18.75, -1.855)]}
 
 
 def until_none(faults):
@@ -62,43 +59,37 @@ def photograph():
 
 
 def missing():
-    """What the opened program lacks: the whole screen for its window and frame, the square white
-    sketch, or an ink on it, in places at least a third as strong as it is."""
+    """What the opened program lacks: its window with the frame filling the screen, its square white
+    sketch, or ink where the picture has some."""
     frame = ask("xprop", "-name", TITLE, "_NET_FRAME_EXTENTS").decode()
     left, right, top, bottom = re.findall(r"\d+", frame) or "0000"
-    corners = re.findall(r"Corners: .*", ask("xwininfo", "-name", TITLE).decode())
-    if corners != [f"Corners:  +{left}+{top}  -{right}+{top}  -{right}-{bottom}  +{left}-{bottom}"]:
-        return f"{corners} with {frame}"
+    place = ask("xwininfo", "-name", TITLE).decode()
+    if f"  +{left}+{top}  -{right}+{top}  -{right}-{bottom}  +{left}-{bottom}\n" not in place:
+        return place + frame
     pixels, x0 = photograph(), 49 + int(left)
-    rows = [y for y in range(700) if pixels[y * WIDTH + x0 + 20] == (255, 255, 255)] or [0]
+    rows = [y for y in range(700) if pixels[y * WIDTH + x0 + 20] == WHITE] or [0]
     unit = (rows[-1] - rows[0]) / 20
     if abs(unit - 0.75 * HEIGHT / 20) > 0.2:
         return f"a sketch with units of {unit} pixels"
 
-    def seen(ink, x, y):
-        place = (rows[0] + round((10 - y) * unit)) * WIDTH + x0 + round(x * unit)
-        for pixel in (pixels[place + i + j] for i in (-WIDTH, 0, WIDTH) for j in (-1, 0, 1)):
-            cover = (255 - min(pixel)) / (255 - min(ink))
-            inked = [255 - cover * (255 - part) for part in ink]
-            if cover > 0.33 and math.dist(pixel, inked) < 16:
-                return True
-        return False
+    def inks(x, y):
+        at = (rows[0] + round((10 - y) * unit)) * WIDTH + x0 + round(x * unit)
+        near = [pixels[at + i + j] for i in (-WIDTH, 0, WIDTH) for j in (-1, 0, 1)]
+        return {min((WHITE, *OPENING), key=lambda ink: math.dist(ink, pixel)) for pixel in near}
 
-    return [(ink, at) for ink, places in OPENING.items() for at in places if not seen(ink, *at)]
+    return [(ink, at) for ink, places in OPENING.items() for at in places if ink not in inks(*at)]
 
 
 def test(path):
-    for managed in (False, True):
+    end = ("search", "--name", TITLE, "windowfocus", "key", "alt+e")
+    for managed, act in ((False, end), (True, ("key", "alt+F4"))):
         with ExitStack() as stack:
             open_screen(stack, managed)
             program = start(stack, path)
             until_none(missing)
-            # The last menu is the rightmost dark spot of the menu bar.
-            menu = max(i % WIDTH for i, p in enumerate(photograph()[:15 * WIDTH]) if sum(p) < 384)
-            act = ("key", "alt+F4") if managed else ("mousemove", f"{menu - 4}", "8", "click", "1")
             until_none(lambda: ask("xdotool", *act) or program.poll() is None and act)
             if program.returncode != 0:
-                sys.exit(f"FAILED: it ended with status {program.returncode}")
+                sys.exit(f"FAILED: {act} ended it with status {program.returncode}")
 
 
 if __name__ == "__main__":
