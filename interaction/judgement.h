@@ -10,9 +10,10 @@ namespace interaction {
 // What can be said of a force that shall explain the motion at a point: its shape and its
 // tangential acceleration. Forces are accelerations of a unit mass, in sketch units.
 struct Judgement {
-  bool
-      wrongForTangential;  // net force against the tangential acceleration, or force against motion
-  bool rightForShape;      // the force has a part toward the centre of curvature
+  // The net force is against the tangential acceleration, or the force against the motion.
+  bool wrongForTangential;
+  // The force has a part toward the centre of curvature.
+  bool rightForShape;
   // What would have to be added for the centripetal force |an|; nothing where an = 0, for then
   // there is no side for it to point to.
   std::optional<track::Vector> extraForShape;

@@ -43,8 +43,8 @@ QtCanvas::QtCanvas(std::function<void()> changed) : changed_(std::move(changed))
   Resize(QSize(1, 1), 1.0);
 }
 
-void QtCanvas::Resize(QSize size, double ratio) {
-  if (size == size_ && ratio == ratio_) return;
+void QtCanvas::Resize(QSize size, double ratio, double zoom) {
+  if (size == size_ && ratio == ratio_ && zoom == zoom_) return;
   const QSize pixels(std::max(1, qRound(size.width() * ratio)),
                      std::max(1, qRound(size.height() * ratio)));
   if (size == size_) {
@@ -56,6 +56,7 @@ void QtCanvas::Resize(QSize size, double ratio) {
   }
   size_ = size;
   ratio_ = ratio;
+  zoom_ = zoom;
   ApplyFont();
   Touch();
 }
@@ -72,7 +73,7 @@ const QImage& QtCanvas::Look() {
 }
 
 int QtCanvas::DotSide(int penWidth) const {
-  return std::max(1, qRound(penWidth * ratio_));
+  return std::max(1, qRound(penWidth * Density()));
 }
 
 void QtCanvas::Clear(Colour background) {
@@ -89,7 +90,7 @@ void QtCanvas::Line(Point from, Point to, const Pen& pen) {
   if (pen.dotted) {
     DottedLine(visible->from, visible->to, pen);
   } else {
-    PaintLine(image_, visible->from, visible->to, pen.width * ratio_, InkOf(pen));
+    PaintLine(image_, visible->from, visible->to, pen.width * Density(), InkOf(pen));
   }
   Touch();
 }
@@ -98,7 +99,7 @@ void QtCanvas::Circle(const CircleShape& circle, const Pen& pen) {
   if (pen.dotted) {
     DottedArc(circle, pen);
   } else {
-    PaintRing(image_, circle, pen.width * ratio_, InkOf(pen));
+    PaintRing(image_, circle, pen.width * Density(), InkOf(pen));
   }
   Touch();
 }
@@ -111,7 +112,7 @@ void QtCanvas::Dots(std::span<const Point> places, const Pen& pen) {
 void QtCanvas::Text(Point topLeft, const std::string& text, Colour colour) {
   // What lies beyond an edge is not even looked up: a body far away leaves hundreds of labels
   // there. No glyph is wider than two, no line higher than two of the font's sizes.
-  const double twoSizes = 2.0 * fontPoints_ * (96.0 / 72.0) * ratio_;
+  const double twoSizes = 2.0 * fontPoints_ * (96.0 / 72.0) * Density();
   const double widest = twoSizes * static_cast<double>(text.size());
   if (!(topLeft.x < image_.width() && topLeft.y < image_.height())) return;
   if (!(topLeft.x > -widest && topLeft.y > -twoSizes)) return;
@@ -158,7 +159,7 @@ void QtCanvas::DottedArc(const CircleShape& circle, const Pen& pen) {
 }
 
 void QtCanvas::ApplyFont() {
-  tiles_.SetFont(FontOf(fontName_, fontPoints_, ratio_));
+  tiles_.SetFont(FontOf(fontName_, fontPoints_, Density()));
 }
 
 void QtCanvas::Touch() {

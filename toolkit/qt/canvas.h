@@ -20,7 +20,8 @@ class QtCanvas : public Canvas {
 
   // Makes the picture `size` logical pixels large, of `ratio` device pixels each. Another size
   // gives a blank picture; another ratio alone, as on a move to another screen, keeps it, rescaled.
-  void Resize(QSize size, double ratio);
+  // Pens and letters are drawn `zoom` times as large as at 1.
+  void Resize(QSize size, double ratio, double zoom = 1.0);
   void SetFont(const std::string& name, float points);
 
   double Ratio() const { return ratio_; }
@@ -40,9 +41,11 @@ class QtCanvas : public Canvas {
   void Text(Point topLeft, const std::string& text, Colour colour) override;
 
  private:
+  // Device pixels to one at 96 dots per inch.
+  double Density() const { return ratio_ * zoom_; }
   // The dots of a dotted line are a little larger than a solid line is wide, to be seen as well.
-  double DotRadius(const Pen& pen) const { return (pen.width + 0.5) * ratio_ / 2.0; }
-  double DotPitch(const Pen& pen) const { return (pen.width + 3.0) * ratio_; }
+  double DotRadius(const Pen& pen) const { return (pen.width + 0.5) * Density() / 2.0; }
+  double DotPitch(const Pen& pen) const { return (pen.width + 3.0) * Density(); }
   Ink InkOf(const Pen& pen) const;
   void DottedLine(Point from, Point to, const Pen& pen);
   void DottedArc(const CircleShape& circle, const Pen& pen);
@@ -54,6 +57,7 @@ class QtCanvas : public Canvas {
   QImage image_;
   QSize size_;
   double ratio_ = 1.0;
+  double zoom_ = 1.0;
   Colour background_ = kWhite;
   std::string fontName_ = "Times New Roman";
   float fontPoints_ = 8.25F;

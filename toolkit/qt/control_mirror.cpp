@@ -6,13 +6,12 @@
 
 #include "toolkit/qt/font.h"
 #include "toolkit/qt/text.h"
-#include "toolkit/qt/twips.h"
 
 namespace toolkit::qt {
 
-ControlMirror::ControlMirror(Control& control, std::unique_ptr<QWidget> widget,
+ControlMirror::ControlMirror(Control& control, const Twips& twips, std::unique_ptr<QWidget> widget,
                              std::function<void()> show)
-    : control_(control), widget_(std::move(widget)), show_(std::move(show)) {
+    : control_(control), twips_(twips), widget_(std::move(widget)), show_(std::move(show)) {
   widget_->setObjectName(Text(control.Name));
   widget_->setAccessibleName(Text(control.AccessibleName));
   Refresh();
@@ -25,8 +24,9 @@ ControlMirror::~ControlMirror() {
 
 void ControlMirror::Refresh() {
   const QSignalBlocker blocker(widget_.get());
-  widget_->setGeometry(PixelsOf(control_.Left, control_.Top, control_.Width, control_.Height));
-  const QFont font = FontOf(control_.FontName, control_.FontSize);
+  widget_->setGeometry(
+      twips_.PixelsOf(control_.Left, control_.Top, control_.Width, control_.Height));
+  const QFont font = FontOf(control_.FontName, control_.FontSize, twips_.Zoom());
   if (font != widget_->font()) widget_->setFont(font);
   show_();
   widget_->setVisible(control_.Visible);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "toolkit/controls.h"
+#include "toolkit/qt/twips.h"
 
 namespace toolkit::qt {
 
@@ -14,7 +15,8 @@ namespace toolkit::qt {
 class ControlMirror : public Mirror {
  public:
   // `show` brings to the widget what only this kind of control has.
-  ControlMirror(Control& control, std::unique_ptr<QWidget> widget, std::function<void()> show);
+  ControlMirror(Control& control, const Twips& twips, std::unique_ptr<QWidget> widget,
+                std::function<void()> show);
   ~ControlMirror() override;
   ControlMirror(const ControlMirror&) = delete;
   ControlMirror& operator=(const ControlMirror&) = delete;
@@ -23,12 +25,13 @@ class ControlMirror : public Mirror {
 
  private:
   Control& control_;
+  Twips twips_;
   std::unique_ptr<QWidget> widget_;
   std::function<void()> show_;
 };
 
 // A mirror for each of the controls. Their widgets are children of `client`, in the same tab order.
 std::vector<std::unique_ptr<Mirror>> MirrorControls(const std::vector<Control*>& controls,
-                                                    QWidget& client);
+                                                    const Twips& twips, QWidget& client);
 
 }  // namespace toolkit::qt

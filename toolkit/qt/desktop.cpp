@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QScreen>
 
 #include "toolkit/qt/accessibility.h"
@@ -21,6 +22,20 @@ QPalette LightPalette() {
   return palette;
 }
 
+// The style of the same look everywhere, with thumbs that leave the short scroll bars of the layout
+// some way to go.
+class Style : public QProxyStyle {
+ public:
+  Style() : QProxyStyle("Fusion") {}
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    constexpr int kShortestThumb = 12;
+    return metric == PM_ScrollBarSliderMin ? kShortestThumb
+                                           : QProxyStyle::pixelMetric(metric, option, widget);
+  }
+};
+
 QSize ScreenSize() {
   const QScreen* screen = QApplication::primaryScreen();
   return screen != nullptr ? screen->geometry().size() : QSize(1024, 768);
@@ -29,7 +44,7 @@ QSize ScreenSize() {
 }  // namespace
 
 QtDesktop::QtDesktop(QApplication&) {
-  QApplication::setStyle("Fusion");
+  QApplication::setStyle(new Style);  // whose owner is the application
   QApplication::setPalette(LightPalette());
   // The layout is the same in every language.
   QApplication::setLayoutDirection(Qt::LeftToRight);
@@ -45,16 +60,16 @@ int QtDesktop::Run() {
 }
 
 float QtDesktop::ScreenWidth() const {
-  return static_cast<float>(ScreenSize().width()) * kTwipsPerPixel;
+  return Twips(ScreenSize()).Of(ScreenSize().width());
 }
 
 float QtDesktop::ScreenHeight() const {
-  return static_cast<float>(ScreenSize().height()) * kTwipsPerPixel;
+  return Twips(ScreenSize()).Of(ScreenSize().height());
 }
 
 void QtDesktop::Create(Window& window) {
   QApplication::setApplicationDisplayName(Text(window.Caption));
-  mirror_ = std::make_unique<WindowMirror>(window);
+  mirror_ = std::make_unique<WindowMirror>(window, Twips(ScreenSize()));
 }
 
 void QtDesktop::Destroy(Window&) {

@@ -19,8 +19,8 @@ namespace {
 class PictureMirror : public ControlMirror {
  public:
   // Becomes the owner of the widget.
-  PictureMirror(PictureBox& box, SketchWidget* shown, AnnouncementWidget* voice)
-      : ControlMirror(box, std::unique_ptr<QWidget>(shown),
+  PictureMirror(PictureBox& box, const Twips& twips, SketchWidget* shown, AnnouncementWidget* voice)
+      : ControlMirror(box, twips, std::unique_ptr<QWidget>(shown),
                       [&box, shown] {
                         shown->FitCanvas();
                         shown->canvas().SetFont(box.FontName, box.FontSize);
@@ -49,7 +49,8 @@ class PictureMirror : public ControlMirror {
 // turn, and then the screen waits with it.
 class Builder : public ControlVisitor {
  public:
-  explicit Builder(QWidget& client) : client_(client), voice_(new AnnouncementWidget(&client)) {}
+  Builder(const Twips& twips, QWidget& client)
+      : twips_(twips), client_(client), voice_(new AnnouncementWidget(&client)) {}
 
   void Visit(Label& label) override {
     auto* shown = new LabelWidget(&client_);
@@ -105,9 +106,9 @@ class Builder : public ControlVisitor {
   }
 
   void Visit(PictureBox& box) override {
-    auto* shown = new SketchWidget(&client_);
+    auto* shown = new SketchWidget(&client_, twips_.Zoom());
     Chain(shown);
-    mirrors_.push_back(std::make_unique<PictureMirror>(box, shown, voice_));
+    mirrors_.push_back(std::make_unique<PictureMirror>(box, twips_, shown, voice_));
   }
 
   std::vector<std::unique_ptr<Mirror>> Take() { return std::move(mirrors_); }
@@ -115,8 +116,8 @@ class Builder : public ControlVisitor {
  private:
   Mirror& Add(Control& control, QWidget* shown, std::function<void()> show) {
     Chain(shown);
-    mirrors_.push_back(
-        std::make_unique<ControlMirror>(control, std::unique_ptr<QWidget>(shown), std::move(show)));
+    mirrors_.push_back(std::make_unique<ControlMirror>(
+        control, twips_, std::unique_ptr<QWidget>(shown), std::move(show)));
     return *mirrors_.back();
   }
 
@@ -125,6 +126,7 @@ class Builder : public ControlVisitor {
     last_ = shown;
   }
 
+  Twips twips_;
   QWidget& client_;
   AnnouncementWidget* voice_;  // the client's child
   QWidget* last_ = nullptr;
@@ -134,8 +136,8 @@ class Builder : public ControlVisitor {
 }  // namespace
 
 std::vector<std::unique_ptr<Mirror>> MirrorControls(const std::vector<Control*>& controls,
-                                                    QWidget& client) {
-  Builder builder(client);
+                                                    const Twips& twips, QWidget& client) {
+  Builder builder(twips, client);
   for (Control* control : controls) control->Accept(builder);
   return builder.Take();
 }

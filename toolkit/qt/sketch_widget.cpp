@@ -42,7 +42,8 @@ std::optional<Key> KeyOf(int key) {
 
 }  // namespace
 
-SketchWidget::SketchWidget(QWidget* parent) : QWidget(parent), canvas_([this] { update(); }) {
+SketchWidget::SketchWidget(QWidget* parent, double zoom)
+    : QWidget(parent), zoom_(zoom), canvas_([this] { update(); }) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setContextMenuPolicy(Qt::PreventContextMenu);
   // By the tab key only: a click on the picture leaves the keyboard with the scroll bar in use.
@@ -50,7 +51,7 @@ SketchWidget::SketchWidget(QWidget* parent) : QWidget(parent), canvas_([this] { 
 }
 
 void SketchWidget::FitCanvas() {
-  canvas_.Resize(size() - QSize(2 * kFramePixels, 2 * kFramePixels), devicePixelRatioF());
+  canvas_.Resize(size() - QSize(2 * kFramePixels, 2 * kFramePixels), devicePixelRatioF(), zoom_);
 }
 
 bool SketchWidget::event(QEvent* event) {

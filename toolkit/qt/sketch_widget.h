@@ -14,7 +14,8 @@ namespace toolkit::qt {
 // and the keys that come while it has the focus.
 class SketchWidget : public QWidget {
  public:
-  explicit SketchWidget(QWidget* parent);
+  // `zoom` as for Twips.
+  SketchWidget(QWidget* parent, double zoom);
 
   QtCanvas& canvas() { return canvas_; }
   // Gives the canvas the size and pixel ratio that the widget has now. Drawing may come before the
@@ -44,6 +45,7 @@ class SketchWidget : public QWidget {
   void PaintPointer(QPainter& painter, const KeyPointer& at) const;
   MouseEvent Seen(const QMouseEvent& event) const;
 
+  double zoom_;
   QtCanvas canvas_;
 };
 

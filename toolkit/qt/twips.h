@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QRect>
+#include <QSize>
 
 #include <algorithm>
 #include <cmath>
@@ -9,16 +10,37 @@
 
 namespace toolkit::qt {
 
-// Logical pixels, the nearest whole number; lengths beyond any screen are cut to what Qt can take.
-inline int PixelsOf(float twips) {
-  constexpr float kFarthest = 100'000.0F;
-  return static_cast<int>(std::lround(std::clamp(twips / kTwipsPerPixel, -kFarthest, kFarthest)));
-}
+// Rounds twips to Qt's logical pixels. Of those `zoom` make 15 twips: 1, or less on a screen that
+// is too low for the layout, as a small one that its user has set to large letters.
+class Twips {
+ public:
+  explicit Twips(QSize screen) : zoom_(std::clamp(screen.height() / kLowest, kLeast, 1.0)) {}
 
-// Each edge is rounded by itself, so that boxes which touch in twips touch in pixels.
-inline QRect PixelsOf(float left, float top, float width, float height) {
-  return {QPoint(PixelsOf(left), PixelsOf(top)),
-          QPoint(PixelsOf(left + width) - 1, PixelsOf(top + height) - 1)};
-}
+  double Zoom() const { return zoom_; }
+
+  // The nearest whole number; lengths beyond any screen are cut to what Qt can take.
+  int PixelsOf(float twips) const {
+    constexpr double kFarthest = 100'000.0;
+    const double pixels = static_cast<double>(twips) / kTwipsPerPixel * zoom_;
+    return static_cast<int>(std::lround(std::clamp(pixels, -kFarthest, kFarthest)));
+  }
+
+  // Each edge is rounded by itself, so that boxes which touch in twips touch in pixels.
+  QRect PixelsOf(float left, float top, float width, float height) const {
+    return {QPoint(PixelsOf(left), PixelsOf(top)),
+            QPoint(PixelsOf(left + width) - 1, PixelsOf(top + height) - 1)};
+  }
+
+  // A whole number of pixels in twips.
+  float Of(int pixels) const { return static_cast<float>(pixels / zoom_) * kTwipsPerPixel; }
+
+ private:
+  // Under the sketch, three quarters of the screen high, are three rows of buttons, and above it
+  // the menu and the title bar: this is what they need. Below half of it letters can't be read.
+  static constexpr double kLowest = 720.0;
+  static constexpr double kLeast = 0.5;
+
+  double zoom_;
+};
 
 }  // namespace toolkit::qt

@@ -7,7 +7,6 @@
 #include "toolkit/qt/menu_mirror.h"
 #include "toolkit/qt/text.h"
 #include "toolkit/qt/timer_mirror.h"
-#include "toolkit/qt/twips.h"
 #include "toolkit/qt/widgets.h"
 
 namespace toolkit::qt {
@@ -20,7 +19,7 @@ constexpr int kSettlingLooks = 100;
 
 }  // namespace
 
-WindowMirror::WindowMirror(Window& window) : window_(window) {
+WindowMirror::WindowMirror(Window& window, const Twips& twips) : window_(window), twips_(twips) {
   setObjectName(Text(window.Name));
   setWindowTitle(Text(window.Caption));
   setMenuBar(new MenuBarWidget(this));
@@ -29,7 +28,7 @@ WindowMirror::WindowMirror(Window& window) : window_(window) {
   auto* client = new QWidget(this);
   setCentralWidget(client);
   menus_ = MirrorMenus(window.menus, *menuBar());
-  controls_ = MirrorControls(window.controls, *client);
+  controls_ = MirrorControls(window.controls, twips, *client);
   for (Timer* timer : window.timers) timers_.push_back(std::make_unique<TimerMirror>(*timer));
   settling_.setInterval(kSettlingMilliseconds);
   QObject::connect(&settling_, &QTimer::timeout, this, [this, looks = 0]() mutable {
@@ -57,7 +56,7 @@ void WindowMirror::Refresh() {
 // The state's size is the outer one: what the frame takes is missing inside. Asked only once for
 // each place, so that a user who moves the window keeps it where it is.
 void WindowMirror::FitFrame() {
-  const QRect outer = PixelsOf(window_.Left, window_.Top, window_.Width, window_.Height);
+  const QRect outer = twips_.PixelsOf(window_.Left, window_.Top, window_.Width, window_.Height);
   const QWindow* handle = windowHandle();
   const QMargins frame = handle != nullptr ? handle->frameMargins() : QMargins();
   const QRect inner = outer.marginsRemoved(frame);
