@@ -30,7 +30,7 @@ picture() {
   wait $program $server 2>/dev/null || true
 }
 
-keys() { for key in "$@"; do xdotool key "$key"; sleep 0.2; done; }
+keys() { for key in "$@"; do xdotool key "$key"; sleep 0.1; done; }
 click() { xdotool mousemove "$1" "$2" click 1; sleep 0.3; }
 
 curvature() { # the circle at a point between crest and trough
@@ -52,17 +52,20 @@ factors() {
   click 60 686
 }
 
+# Sets the scroll bar at ($1, $2) to its least value and then moves it by the keys after that.
+turn() {
+  click "$1" "$2"
+  keys Home "${@:3}"
+}
+
 evolution() { # from rest, slowly, 20 steps to a unit of time: the labels read 3, 5, 7
-  click 641 660
-  keys Home
-  click 368 648
-  for _ in {1..17}; do keys Left; done
+  turn 641 660
+  turn 368 648 $(printf 'Right %.0s' {1..38}) # a tangential acceleration of 0.3
   click 160 8
   click 60 660
-  click 230 624
-  for _ in 1 2 3; do keys Prior; done
-  click 80 622
-  sleep 2
+  turn 230 624 Next
+  click 150 622
+  xdotool key --delay 20 --repeat 209 space # step by step, the same on every machine
 }
 
 picture opening true
