@@ -72,6 +72,10 @@ void MenuBarWidget::paintEvent(QPaintEvent* event) {
   }
   painter.setPen(palette().color(QPalette::Window).darker(112));
   painter.drawLine(0, height() - 1, width(), height() - 1);
+  if (hasFocus() && activeAction() != nullptr) {
+    painter.setClipping(false);
+    PaintFrame(painter, actionGeometry(activeAction()), palette().color(QPalette::Highlight));
+  }
 }
 
 TextWidget::TextWidget(QWidget* parent) : QPlainTextEdit(parent) {

@@ -38,8 +38,9 @@ class ScrollWidget : public QScrollBar {
   int wheel_ = 0;  // what has been turned since the last whole notch
 };
 
-// A menu bar whose line below is whole. The style draws it item by item, each too short where the
-// item ends between two device pixels.
+// A menu bar that shows to which item the Alt key and the arrow keys have come, and whose line
+// below is whole: the style draws it item by item, each too short where the item ends between two
+// device pixels.
 class MenuBarWidget : public QMenuBar {
  public:
   using QMenuBar::QMenuBar;
