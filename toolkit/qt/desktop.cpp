@@ -26,7 +26,7 @@ QPalette LightPalette() {
 // some way to go.
 class Style : public QProxyStyle {
  public:
-  Style() : QProxyStyle("Fusion") {}
+  explicit Style(QObject* owner) : QProxyStyle("Fusion") { setParent(owner); }
 
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override {
@@ -43,8 +43,8 @@ QSize ScreenSize() {
 
 }  // namespace
 
-QtDesktop::QtDesktop(QApplication&) {
-  QApplication::setStyle(new Style);  // whose owner is the application
+QtDesktop::QtDesktop(QApplication& application) {
+  QApplication::setStyle(new Style(&application));
   QApplication::setPalette(LightPalette());
   // The layout is the same in every language.
   QApplication::setLayoutDirection(Qt::LeftToRight);
