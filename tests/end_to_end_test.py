@@ -44,9 +44,8 @@ def open_screen(stack, managed=True):
     reader, writer = os.pipe()
     start(stack, "Xvfb", "-displayfd", str(writer), "-screen", "0", f"{WIDTH}x{HEIGHT}x24",
           "-noreset", pass_fds=[writer], stderr=DEVNULL)
-    leaks = os.path.join(os.path.dirname(os.path.abspath(__file__)), "leaks.supp")
     os.environ |= {"DISPLAY": ":" + os.read(reader, 9).decode().strip(), "QT_QPA_PLATFORM": "xcb",
-                   "LSAN_OPTIONS": f"suppressions={leaks}:print_suppressions=0"}
+                   "LSAN_OPTIONS": f"suppressions={sys.path[0]}/leaks.supp:print_suppressions=0"}
     if managed:
         start(stack, "openbox", "--sm-disable", stderr=DEVNULL)
         until_none(lambda: b"id #" not in ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK")
@@ -58,35 +57,41 @@ def photograph():
     return list(zip(rgb[::3], rgb[1::3], rgb[2::3]))
 
 
-def missing():
-    """What the opened program lacks: its window with the frame filling the screen, its square white
-    sketch, or ink where the picture has some."""
+def missing(ratio):
+    """What the screen lacks: a window that fills it, a square white sketch, ink in its places. Where
+    it is too low for the ratio, all is smaller."""
     frame = ask("xprop", "-name", TITLE, "_NET_FRAME_EXTENTS").decode()
     left, right, top, bottom = re.findall(r"\d+", frame) or "0000"
     place = ask("xwininfo", "-name", TITLE).decode()
     if f"  +{left}+{top}  -{right}+{top}  -{right}-{bottom}  +{left}-{bottom}\n" not in place:
-        return place + frame
-    pixels, x0 = photograph(), 49 + int(left)
+        return place + frame or "no window"
+    pixels = photograph()
+    x0 = int(left) + ratio * (round(48 * min(1, HEIGHT / ratio / 720)) + 1)
     rows = [y for y in range(700) if pixels[y * WIDTH + x0 + 20] == WHITE] or [0]
     unit = (rows[-1] - rows[0]) / 20
-    if abs(unit - 0.75 * HEIGHT / 20) > 0.2:
+    if abs(unit - (0.75 * HEIGHT - 2 * ratio) / 20) > 0.1:
         return f"a sketch with units of {unit} pixels"
 
-    def inks(x, y):
+    def seen(ink, x, y):
         at = (rows[0] + round((10 - y) * unit)) * WIDTH + x0 + round(x * unit)
-        near = [pixels[at + i + j] for i in (-WIDTH, 0, WIDTH) for j in (-1, 0, 1)]
-        return {min((WHITE, *OPENING), key=lambda ink: math.dist(ink, pixel)) for pixel in near}
+        for pixel in (pixels[at + i + j] for i in (-WIDTH, 0, WIDTH) for j in (-1, 0, 1)):
+            cover = (255 - min(pixel)) / (255 - min(ink))
+            inked = [255 - cover * (255 - part) for part in ink]
+            if cover > 0.33 and math.dist(pixel, inked) < 16:
+                return True
+        return False
 
-    return [(ink, at) for ink, places in OPENING.items() for at in places if ink not in inks(*at)]
+    return [(ink, at) for ink, places in OPENING.items() for at in places if not seen(ink, *at)]
 
 
 def test(path):
     end = ("search", "--name", TITLE, "windowfocus", "key", "alt+e")
-    for managed, act in ((False, end), (True, ("key", "alt+F4"))):
+    for managed, ratio, act in ((False, 2, end), (True, 1, ("key", "alt+F4"))):
         with ExitStack() as stack:
+            os.environ["QT_SCALE_FACTOR"] = str(ratio)
             open_screen(stack, managed)
             program = start(stack, path)
-            until_none(missing)
+            until_none(lambda: missing(ratio))
             until_none(lambda: ask("xdotool", *act) or program.poll() is None and act)
             if program.returncode != 0:
                 sys.exit(f"FAILED: {act} ended it with status {program.returncode}")

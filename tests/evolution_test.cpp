@@ -17,7 +17,7 @@ struct Journey : Motion {
   Marks last;          // arrows
   const window::PathRecords& path = window->module.path;
 
-  void Scroll(int steps) { window->vimatimi.UserScroll(steps), gap = 3 * steps; }
+  void Scroll(int steps) { bars[4]->UserScroll(steps), gap = 3 * steps; }
   void Start() { window->Command1.UserClick(), n = 0, time = 0; }
   bool Tick() {
     Forget(), desktop.Tick(), Check();
@@ -41,14 +41,15 @@ struct Journey : Motion {
     EXPECT_NEAR(path.PathY[n], y, 1e-12);
     EXPECT_NEAR(Length(x, A * w), s, 4e-8 * std::abs(s) + 1e-4 * std::hypot(1, A * w) / w);
 
-    arrows = last;
-    for (Mark& erased : arrows) erased.colour = toolkit::kWhite, erased.width = 3;
-    Arrow(v, 0, kRed);
-    Arrow(at / 2, an / 2, {0, 25, 155});
-    last.assign(arrows.begin() + static_cast<std::ptrdiff_t>(last.size()), arrows.end());
+    for (Mark& arrow : last) {
+      arrow.pen = {toolkit::kWhite, 3};
+      Expect(arrow);
+    }
+    Arrow(v, 0, kRed), Arrow(at / 2, an / 2, {0, 25, 155});
+    last.assign(expected.begin() + std::ssize(last), expected.end());
     Text(2, 8, "β = " + window::Format(w, 2));
     for (int i = 0; i <= n; i += gap) ExpectLabel(i);
-    EXPECT_EQ(FirstWrong(1e-8), -1);
+    EXPECT_EQ(Wrong(1e-8, {Kind::Line, Kind::Text}), "");
     if (n < 70 || n % 97 < 2) CheckDots();
   }
 
@@ -65,22 +66,23 @@ struct Journey : Motion {
   // The body and the arrows, then the whole path in its order, a red mark over the dot of every 3
   // time units. A dot may be left out only off the sketch or on the pixel of the one before.
   void CheckDots() {
-    const Marks got = Dots();
+    const Marks got = Read(Kind::Dot);
+    auto next = got.begin();
     Mark before{};
-    std::size_t found = 0;
-    const auto expect = [&](int i, Colour colour, int width) {
-      const Mark want{path.PathX[i], path.PathY[i], 0, 0, 0, colour, width};
-      const bool drawn = found < got.size() && Miss(got[found], want) < 1e-8;
-      EXPECT_TRUE(drawn || std::abs(want.x - 10) > 10.1 || Miss(before, want) * Unit() < 1.42) << i;
-      found += drawn, before = want;
+    const auto expect = [&](int i, const toolkit::Pen& pen) {
+      const Mark want{Kind::Dot, {path.PathX[i], path.PathY[i]}, 0, 0, pen};
+      const bool drawn = next != got.end() && Miss(*next, want) < 1e-8;
+      const bool needed = std::abs(path.PathX[i] - 10) < 10.1 && Miss(before, want) * Unit() > 1.42;
+      EXPECT_TRUE(drawn || !needed) << i;
+      next += drawn, before = want;
     };
-    expect(n, kInk, 1);
+    expect(n, {kInk});
     for (int i = 0; i <= n; ++i) {
-      expect(i, kInk, 1);
-      if (i % gap == 0) expect(i, kRed, 3);
+      expect(i, {kInk});
+      if (i % gap == 0) expect(i, {kRed, 3});
     }
-    EXPECT_EQ(found, got.size());
-    const auto lines = Lines().size();
+    EXPECT_EQ(next, got.end());
+    const auto lines = Count(Kind::Line);
     EXPECT_TRUE(lines == 0 || Operations()[1 + lines].kind == Kind::Line);
   }
 };
@@ -133,14 +135,9 @@ TEST(Evolution, StopsContinuesAndStartsOver) {
 // From rest the distances in equal times are as the odd numbers; a = 0.3, marks 3 time units apart.
 TEST(Evolution, LabelsFromRestReadThreeFiveSeven) {
   Journey run(20, 15, 0, 3, 20);
-  auto& w = *run.window;
-  w.Command1.UserClick();
-  while (w.module.StepCount < 239) run.desktop.Tick();
-  run.Forget(), run.desktop.Tick();
-  std::string said;
-  for (const auto& text : run.Texts()) said += text.text + "|";
+  while (run.n < 240) ASSERT_TRUE(run.Tick());
   for (const char* ratio : {"Ds = 3.00 X", "Ds = 5.00 X", "Ds = 7.00 X"}) {
-    EXPECT_NE(said.find(ratio), std::string::npos) << said;
+    EXPECT_NE(run.Said().find(ratio), std::string::npos) << run.Said();
   }
 }
 

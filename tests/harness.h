@@ -1,10 +1,14 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <complex>
+#include <iterator>
 #include <memory>
 #include <numbers>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -16,13 +20,15 @@ struct Program {
   using Operation = toolkit::headless::Operation;
   using Kind = Operation::Kind;
   using Colour = toolkit::Colour;
+  using Vector = std::complex<double>;
 
-  // An arrow (shaft start and components), a dot or text (place), a circle (centre).
+  // A dot, a text, a line with its components, or a circle: the point where it touches the track,
+  // and its centre's direction from there.
   struct Mark {
-    double x = 0, y = 0, vx = 0, vy = 0, radius = 0;
-    Colour colour{};
-    int width = 1;
-    bool dotted = false;
+    Kind kind{};
+    Vector place{}, vector{};
+    double radius = 0;
+    toolkit::Pen pen{};
     std::string text{};
   };
   using Marks = std::vector<Mark>;
@@ -32,20 +38,50 @@ struct Program {
   toolkit::headless::HeadlessDesktop desktop;
   std::unique_ptr<app::firststep> window;
 
+  // The amplitude, frequency, tangential acceleration, initial speed and time step.
+  std::array<toolkit::ScrollBar*, 5> bars{&window->platosvalue, &window->syxnotikamp,
+                                          &window->epitaxyno, &window->arxikives,
+                                          &window->vimatimi};
+  void Scroll(const std::vector<int>& values) {
+    for (std::size_t i = 0; i < values.size(); ++i) bars.at(i)->UserScroll(values[i]);
+  }
+
   std::vector<Operation>& Operations() { return desktop.Picture().operations; }
   void Forget() { Operations().clear(); }
-  int Count(Kind kind) { return static_cast<int>(Read(kind).size()); }
+  auto Count(Kind kind) { return std::ranges::count(Operations(), kind, &Operation::kind); }
 
-  Marks Dots() { return Read(Kind::Dot); }
-  Marks Texts() { return Read(Kind::Text); }
-  Marks Circles() { return Read(Kind::Circle); }
-  Marks Lines() { return Read(Kind::Line); }
-  // Every arrow is three lines, its shaft first.
+  Marks Read(Kind wanted) {
+    Marks marks;
+    for (const auto& [kind, pen, from, to, radius, text] : Operations()) {
+      if (kind != wanted) continue;
+      const Vector start(from.x, -from.y), end(to.x, -to.y);
+      const Vector line = kind == Kind::Line ? (end - start) / Unit() : end;
+      marks.push_back({kind, start / Unit() + Vector(0, 10), line, radius / Unit(), pen, text});
+    }
+    return marks;
+  }
+  // Every arrow is three lines: its shaft, and two barbs that lead back from its tip, 30 degrees to
+  // either side. One that looks otherwise is marked as broken.
   Marks Arrows() {
     Marks arrows;
-    const Marks lines = Lines();
-    for (std::size_t i = 0; i + 2 < lines.size(); i += 3) arrows.push_back(lines[i]);
+    const Marks lines = Read(Kind::Line);
+    for (std::size_t i = 0; i + 2 < lines.size(); i += 3) {
+      const Mark &shaft = lines[i], &left = lines[i + 1], &right = lines[i + 2];
+      const Vector tip = shaft.place + shaft.vector, back = -shaft.vector / std::abs(shaft.vector);
+      const double miss = std::abs(left.place - tip) + std::abs(right.place - tip) +
+                          std::abs(left.vector + right.vector - back * kBarb * std::sqrt(3)) +
+                          std::abs(left.vector * right.vector - back * back * kBarb * kBarb);
+      arrows.push_back(shaft);
+      if (!(miss < 1e-6)) arrows.back().text = "broken";
+    }
     return arrows;
+  }
+  static constexpr double kBarb = std::numbers::sqrt2 * 20 / 75;
+  // All texts, one after another.
+  std::string Said() {
+    std::string said;
+    for (const Operation& o : Operations()) said += o.text;
+    return said;
   }
 
   double Unit() { return (desktop.Picture().Size().width - 1) / 20.0; }  // pixels per sketch unit
@@ -56,36 +92,21 @@ struct Program {
   void Release(double x, double y, int shift = 0, int button = 1) {
     window->eikona.UserMouseUp({button, shift, Pixel(x, y)});
   }
-
- private:
-  Marks Read(Kind wanted) {
-    Marks marks;
-    const double u = Unit();
-    for (const auto& [kind, pen, from, to, radius, text] : Operations()) {
-      if (kind != wanted) continue;
-      marks.push_back(
-          {from.x / u, 10 - from.y / u, 0, 0, radius / u, pen.colour, pen.width, pen.dotted, text});
-      Mark& m = marks.back();
-      if (kind == Kind::Line) m.vx = (to.x - from.x) / u, m.vy = (from.y - to.y) / u;
-      if (kind == Kind::Circle) m.x += m.radius * to.x, m.y -= m.radius * to.y;
-    }
-    return marks;
-  }
 };
 
 // The program with a track of its own, where the body is on it, and what the picture shall show of
 // its motion: from the curve and the laws of motion alone.
 struct Motion : Program {
-  static constexpr Colour kInk{1, 0, 66}, kRed{255, 0, 0};
+  static constexpr Colour kInk{1, 0, 66}, kRed{255, 0, 0}, kBlue{5, 150, 255};
   static constexpr double kPi = std::numbers::pi;
 
   Motion(int amplitude, int degrees, int speed, int acceleration) {
-    window->platosvalue.UserScroll(amplitude), window->syxnotikamp.UserScroll(degrees);
-    window->arxikives.UserScroll(speed), window->epitaxyno.UserScroll(acceleration);
+    Scroll({amplitude, degrees, acceleration, speed});
     A = amplitude / 10.0, w = degrees * kPi / 180, v0 = speed, at = acceleration / 10.0;
   }
-  double A, w, v0, at, x = 0, y = 0, cosine = 1, sine = 0, curvature = 0, v = 0, an = 0;
-  Marks arrows{}, texts{};  // that the picture shall show
+  double A, w, v0, at, x = 0, y = 0, curvature = 0, v = 0, an = 0;
+  Vector tangent = 1;
+  Marks expected{};
 
   // The length from the origin to this x of a sine curve that begins with the slope.
   double Length(double to, double slope) const {
@@ -95,36 +116,68 @@ struct Motion : Program {
   }
   void MoveTo(double abscissa, double speed) {
     x = abscissa, y = A * std::sin(w * x), v = speed;
-    const double slope = A * w * std::cos(w * x);
-    cosine = 1 / std::hypot(1, slope), sine = slope * cosine;
-    curvature = -w * w * y * std::pow(cosine, 3);
+    tangent = std::polar(1.0, std::atan(A * w * std::cos(w * x)));
+    curvature = -w * w * y * std::pow(tangent.real(), 3);
     an = std::abs(curvature) < 1e-15 ? 0 : v * v * curvature;
   }
+  // Whether the body comes that far, as the pictures without time count the distance.
+  bool ArriveAt(double abscissa) {
+    const double square = v0 * v0 + 2 * at * Length(abscissa, A);
+    MoveTo(abscissa, std::sqrt(std::max(square, 0.0)));
+    return square >= 0;
+  }
+
+  // Arrows that are too short are not drawn, nor circles that are straight.
+  void Expect(const Mark& mark) {
+    const bool tooShort = mark.kind == Kind::Line && std::abs(mark.vector) < 0.21773;
+    if (!tooShort && std::isfinite(mark.radius)) expected.push_back(mark);
+  }
   // By its parts along the tangent and along the normal on its left.
-  Mark Vector(double along, double left, Colour colour = {}, int width = 1) const {
-    return {x, y, along * cosine - left * sine, along * sine + left * cosine, 0, colour, width};
-  }
-  // Arrows that are too short are not drawn.
   void Arrow(double along, double left, Colour colour, int width = 1) {
-    if (std::hypot(along, left) > 0.21773) arrows.push_back(Vector(along, left, colour, width));
+    Expect({Kind::Line, {x, y}, Vector(along, left) * tangent, 0, {colour, width}});
   }
+  void Dot(int width = 1) { Expect({Kind::Dot, {x, y}, 0, 0, {kInk, width}}); }
   void Text(double leftEdge, double top, const std::string& text) {
-    texts.push_back({leftEdge, top, 0, 0, 0, kInk, 1, false, text});
+    Expect({Kind::Text, {leftEdge, top}, 0, 0, {kInk}, text});
+  }
+  void Legend(Colour colour, int width, Vector tail, Vector corner, const char* text) {
+    Expect({Kind::Line, tail, 1, 0, {colour, width}});
+    Text(corner.real(), corner.imag(), text);
+  }
+  void Track(int width = 1) {
+    for (int i = 0; i <= 400; ++i) MoveTo(i / 20.0, 0), Dot(width);
+  }
+  // The circle of curvature touches the track, on the side to which the track bends.
+  void PointOfTrack(int width = 1) {
+    const Vector inward = Vector(0, std::copysign(1, curvature)) * tangent;
+    const double radius = std::abs(1 / curvature);
+    Expect({Kind::Circle, {x, y}, inward, radius, {{250, 0, 150}, width, true}});
+    Dot(width);
+    Arrow(v, 0, kRed, width), Arrow(0, A * an / 4, kBlue, width);
+    Arrow(A * at / 4, 0, {5, 150, 250}, width);
   }
 
   // How far two marks are apart that else look the same.
   static double Miss(const Mark& a, const Mark& b) {
-    if (!(a.colour == b.colour) || a.width != b.width || a.text != b.text) return INFINITY;
-    return std::hypot(a.x - b.x, a.y - b.y) + std::hypot(a.vx - b.vx, a.vy - b.vy);
+    const auto looks = [](const Mark& m) {
+      return std::tie(m.kind, m.pen.colour, m.pen.width, m.pen.dotted, m.text);
+    };
+    if (looks(a) != looks(b)) return INFINITY;
+    const double bend = a.radius == b.radius ? 0 : std::abs(a.radius / b.radius - 1);
+    return std::abs(a.place - b.place) + std::abs(a.vector - b.vector) + bend;
   }
-  // Which of the arrows and then of the texts is the first that is not as it shall be; -1 if none.
-  // From then on nothing is expected.
-  long FirstWrong(double tolerance) {
-    Marks got = Arrows(), want = std::exchange(arrows, {});
-    for (const Mark& text : Texts()) got.push_back(text);
-    for (const Mark& text : std::exchange(texts, {})) want.push_back(text);
+  // Which of the picture's marks, kind after kind as they are declared, is the first that is not as
+  // it shall be; empty if none. From then on nothing is expected.
+  std::string Wrong(double tolerance, const std::vector<Kind>& kinds = {Kind::Line, Kind::Circle,
+                                                                        Kind::Dot, Kind::Text}) {
+    Marks got, want = std::exchange(expected, {});
+    for (const Kind kind : kinds) {
+      std::ranges::copy(kind == Kind::Line ? Arrows() : Read(kind), std::back_inserter(got));
+    }
+    std::ranges::stable_sort(want, {}, &Mark::kind);
     const auto same = [=](const Mark& a, const Mark& b) { return Miss(a, b) < tolerance; };
-    const auto [g, m] = std::mismatch(got.begin(), got.end(), want.begin(), want.end(), same);
-    return g == got.end() && m == want.end() ? -1 : g - got.begin();
+    const auto [bad, due] = std::ranges::mismatch(got, want, same);
+    if (bad == got.end() && due == want.end()) return "";
+    return std::to_string(bad - got.begin()) + " of " + std::to_string(want.size());
   }
 };

@@ -26,9 +26,8 @@ for path in sorted(path for top in tops for path in (ROOT / top).rglob("*.[hc]*"
         faults += [f"{name} names Qt: {word.group()}" for word in QT.finditer(text)]
     if room in ("tests", "bench"):
         continue
-    for header in graph[name]:
-        if str(Path(header).parent) not in ARROWS.get(room, set()) | {room}:
-            faults.append(f"{name} looks into {header}")
+    faults += [f"{name} looks into {header}" for header in graph[name]
+               if str(Path(header).parent) not in ARROWS.get(room, set()) | {room}]
     if not MAY_NAME_QT.match(name):
         foreign = re.findall(r"^\s*#\s*include\s*<(.*[^a-z_\n].*)>", text, re.M)
         faults += [f"{name} includes <{header}>" for header in foreign]

@@ -20,7 +20,7 @@ struct Keyboard : Program {
   }
   std::string Shown() {
     std::string shown = said + window->Text1.Text.Get() + eikona.Description.Get();
-    for (const Mark& m : Arrows()) shown += std::to_string(std::lround(99 * m.vx + 999 * m.vy));
+    for (const auto& o : Operations()) shown += std::to_string(std::lround(9 * o.to.x + o.to.y));
     return shown;
   }
 };

@@ -1,3 +1,4 @@
+#include <QApplication>
 #include <QPainter>
 #include <gtest/gtest.h>
 
@@ -13,11 +14,16 @@ using toolkit::kWhite, toolkit::Point;
 constexpr toolkit::Colour kRed{255, 0, 0}, kInk{1, 0, 66};
 constexpr double kRatios[] = {1.0, 1.25, 1.5, 2.0, 3.0};
 
-struct Sheet : toolkit::qt::QtCanvas {
-  Sheet(int side, double ratio) : QtCanvas(nullptr) { Resize({side, side}, ratio); }
+struct QtCanvas : testing::Test {
+  int none = 0;
+  QApplication application{none, nullptr};
 };
 
-TEST(QtCanvas, DotsAreCrispSquaresUpToTheCorners) {
+struct Sheet : toolkit::qt::QtCanvas {
+  Sheet(int side, double ratio) : toolkit::qt::QtCanvas(nullptr) { Resize({side, side}, ratio); }
+};
+
+TEST_F(QtCanvas, DotsAreCrispSquaresUpToTheCorners) {
   for (int i = 0; i < 15; ++i) {
     const int width = 1 + i / 5, side = qRound(width * kRatios[i % 5]);
     Sheet sheet(40, kRatios[i % 5]);
@@ -35,7 +41,7 @@ TEST(QtCanvas, DotsAreCrispSquaresUpToTheCorners) {
   }
 }
 
-TEST(QtCanvas, WhiteLineLeavesNothingOfAThinnerOne) {
+TEST_F(QtCanvas, WhiteLineLeavesNothingOfAThinnerOne) {
   for (int i = 0; i < 2500; ++i) {
     const double ratio = kRatios[i % 5], angle = i * (std::numbers::pi / 32 + 2e-6);
     const double length = ratio * (i % 7 == 0 ? 0.2 : 3.1) * (i % 11);
@@ -50,7 +56,7 @@ TEST(QtCanvas, WhiteLineLeavesNothingOfAThinnerOne) {
   }
 }
 
-TEST(QtCanvas, HugeNumbersShowWhatCrossesThePicture) {
+TEST_F(QtCanvas, HugeNumbersShowWhatCrossesThePicture) {
   QImage shown[2];
   for (const bool huge : {false, true}) {
     Sheet sheet(200, 1.0);
@@ -67,7 +73,7 @@ TEST(QtCanvas, HugeNumbersShowWhatCrossesThePicture) {
 }
 
 // Told by the distance from the centre in a longer mantissa, independently of how it is drawn.
-TEST(QtCanvas, CirclesOfAnyRadiusLieWhereTheyShould) {
+TEST_F(QtCanvas, CirclesOfAnyRadiusLieWhereTheyShould) {
   for (int i = 0; i <= 126; ++i) {
     const bool dotted = i % 2 == 1;
     const double radius = std::pow(10.0, 1.25 + i / 8.0), angle = 0.7 * i, ratio = 1 + i / 2 % 2;
@@ -93,13 +99,14 @@ TEST(QtCanvas, CirclesOfAnyRadiusLieWhereTheyShould) {
   }
 }
 
-TEST(QtCanvas, TextStaysTheSameHoweverOftenItIsPrinted) {
+TEST_F(QtCanvas, TextStaysTheSameHoweverOftenItIsPrinted) {
   for (const double ratio : kRatios) {
     Sheet sheet(120, ratio), other(120, ratio);
     const auto print = [](Sheet& on, const char* text) { on.Text({5.2, 20.4}, text, kInk); };
     print(sheet, "β = 0.26 Ταχύτης"), print(other, "γ = 0.26 Ταχύτης");
+    EXPECT_NE(sheet.Look(), other.Look());  // letters, not the boxes that stand for missing ones
+    sheet.Dots(std::vector<Point>{{12, 24}}, {kInk, 9});
     const QImage once = sheet.Look();
-    EXPECT_NE(other.Look(), once);  // letters, not the boxes that stand for missing ones
     sheet.Line({60 * ratio, 0}, {60 * ratio, 50 * ratio}, {kWhite, 3});
     EXPECT_NE(sheet.Look(), once);
     for (int i = 0; i < 1000; ++i) print(sheet, "β = 0.26 Ταχύτης");
@@ -108,15 +115,13 @@ TEST(QtCanvas, TextStaysTheSameHoweverOftenItIsPrinted) {
   }
 }
 
-TEST(QtCanvas, PictureOutlivesTheMoveToAnotherScreenButNotAnotherSize) {
+TEST_F(QtCanvas, PictureOutlivesTheMoveToAnotherScreenButNotAnotherSize) {
   Sheet sheet(60, 1.0);
   for (const double y : {30.0, 31.0}) sheet.Line({10, y}, {50, y}, {kRed, 3});
   sheet.Resize({60, 60}, 2.0);
   sheet.Line({20, 90.5}, {100, 90.5}, {kInk, 1});
-  std::string seen;
-  for (const int y : {61, 89, 90, 91, 92}) {
-    seen += sheet.Look().pixelColor(60, y).name().toStdString();
-  }
+  QString seen;
+  for (const int y : {61, 89, 90, 91, 92}) seen += sheet.Look().pixelColor(60, y).name();
   EXPECT_EQ(seen, "#ff0000#ffffff#010042#010042#ffffff");
   sheet.Resize({61, 61}, 2.0);
   EXPECT_EQ(sheet.Look(), Sheet(61, 2.0).Look());

@@ -89,10 +89,9 @@ TEST(Arc, IsThePartInTheDiscAtAnyRadius) {
     const Point touch{any(off), any(off)}, n{std::cos(turn), std::sin(turn)};
     const auto arc = toolkit::ArcInDisc({touch, n, r}, {0, 0}, 400);
     for (int j = 0; arc.begin <= arc.end && j <= 8; ++j) {
-      const double angle = j == 8 ? arc.end : arc.begin + (arc.end - arc.begin) * j / 8;
-      const Point at = toolkit::PointOfArc({touch, n, r}, angle);
+      const Point at = toolkit::PointOfArc({touch, n, r}, std::lerp(arc.begin, arc.end, j / 8.0));
       const double x = at.x - touch.x, y = at.y - touch.y, out = std::hypot(at.x, at.y);
-      const bool end = arc.end - arc.begin < 6.28 && (j == 0 || j == 8);
+      const bool end = arc.end - arc.begin < 6.28 && j % 8 == 0;
       ASSERT_NEAR((x * x + y * y) / r, 2 * (x * n.x + y * n.y), 1e-6) << r;  // on the circle
       ASSERT_TRUE(out <= 400 + 1e-6 && (!end || out >= 400 - 1e-6)) << r << ": " << out;
     }

@@ -1,8 +1,0 @@
-#include <QApplication>
-#include <gtest/gtest.h>
-
-int main(int argc, char** argv) {
-  QApplication app(argc, argv);
-  testing::InitGoogleTest(&argc, argv);
-  return RUN_ALL_TESTS();
-}
