@@ -9,6 +9,10 @@ namespace app {
 
 using window::Format;
 
+namespace {
+constexpr const char* kNothingShown = "The sketch is empty";
+}  // namespace
+
 void firststep::ShowParameters(bool shown) {
   for (toolkit::Control* control : std::initializer_list<toolkit::Control*>{
            &platosvalue, &syxnotikamp, &epitaxyno, &arxikives, &Label1, &Label2, &Label3}) {
@@ -32,7 +36,7 @@ void firststep::ShowTimeEvolution(bool shown) {
 
 void firststep::ShowEmptySketch() {
   eikona.Cls();
-  eikona.Description = "The sketch is empty";
+  eikona.Description = kNothingShown;
 }
 
 // Runs once, before the window is sized or shown. What it draws is gone before anybody sees it;
@@ -118,13 +122,16 @@ void firststep::DYNAMEISDIAFORES_Click() {
 
 void firststep::GUESSFORCE_Click() {
   window::StandardScale(eikona);
-  ShowEmptySketch();
+  eikona.Cls();
   DYNAMEISDIAFORES.Checked = false;
   Text1.Text =
       "If you click on the sketch, the vectors depicting FRICTION, VELOCITY, ACCELERATION "
       "(centripetal, tangential) appear. Press SHIFT and drag the mouse from a point on the curve "
       "to draw a FORCE that explains the SHAPE and TANGENTIAL acceleration";
-  if (GUESSFORCE.Checked) return;
+  if (GUESSFORCE.Checked) {
+    eikona.Description = kNothingShown;
+    return;
+  }
   GUESSFORCE.Checked = true;
   scenes::DrawFactorsScene(*this);
 }

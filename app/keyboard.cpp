@@ -1,8 +1,10 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <string>
 
 #include "app/firststep.h"
+#include "track/geometry.h"
 #include "window/format.h"
 
 namespace app {

@@ -9,18 +9,22 @@ namespace scenes {
 void DrawCurvatureScene(window::Controls& firststep) {
   sketch::Sketch& eikona = firststep.eikona;
   const track::Parameters track = window::TrackParameters(firststep);
-  eikona.Description = "The track; the body stops before the first crest";
+  // Told once, when it is settled: whoever hears it cannot look which text came last.
+  const char* shown = "The track; the body stops before the first crest";
   DrawTrack(eikona, track);
   for (const double phase : {track::Pi / 2.0, 3.0 * track::Pi / 2.0}) {
     const auto motion = track::MotionAt(track, phase / track.frequency);
-    if (!motion) return;
+    if (!motion) {
+      eikona.Description = shown;
+      return;
+    }
     const track::Vector place = Place(motion->point);
     DrawCircleOfCurvature(eikona, motion->point);
     eikona.PSet(place.x, place.y);
     DrawArrow(eikona, place, motion->velocity, colours::kVelocity);
     DrawArrow(eikona, place, motion->centripetalArrow, colours::kCentripetal);
     DrawArrow(eikona, place, motion->tangentialArrow, colours::kTangential);
-    eikona.Description =
+    shown =
         "The track with its circle of curvature at the first crest, and the velocity and "
         "acceleration there; the body stops before the first trough";
   }

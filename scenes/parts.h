@@ -7,7 +7,8 @@
 
 namespace scenes {
 
-// One colour for each quantity, the same in every picture.
+// The same colours in every picture. The centripetal and the tangential acceleration look alike, as
+// the parts of one thing.
 namespace colours {
 inline constexpr sketch::Colour kVelocity{255, 0, 0};
 inline constexpr sketch::Colour kCentripetal{5, 150, 255};

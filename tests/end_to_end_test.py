@@ -57,16 +57,16 @@ def photograph():
     return list(zip(rgb[::3], rgb[1::3], rgb[2::3]))
 
 
-def missing(ratio):
+def missing(ratio, margin):
     """What the screen lacks: a window that fills it, a square white sketch, ink in its places. Where
-    it is too low for the ratio, all is smaller."""
+    it is too low for the ratio, the margin shrinks."""
     frame = ask("xprop", "-name", TITLE, "_NET_FRAME_EXTENTS").decode()
     left, right, top, bottom = re.findall(r"\d+", frame) or "0000"
     place = ask("xwininfo", "-name", TITLE).decode()
     if f"  +{left}+{top}  -{right}+{top}  -{right}-{bottom}  +{left}-{bottom}\n" not in place:
         return place + frame or "no window"
     pixels = photograph()
-    x0 = int(left) + ratio * (round(48 * min(1, HEIGHT / ratio / 720)) + 1)
+    x0 = int(left) + ratio * (margin + 1)
     rows = [y for y in range(700) if pixels[y * WIDTH + x0 + 20] == WHITE] or [0]
     unit = (rows[-1] - rows[0]) / 20
     if abs(unit - (0.75 * HEIGHT - 2 * ratio) / 20) > 0.1:
@@ -86,12 +86,12 @@ def missing(ratio):
 
 def test(path):
     end = ("search", "--name", TITLE, "windowfocus", "key", "alt+e")
-    for managed, ratio, act in ((False, 2, end), (True, 1, ("key", "alt+F4"))):
+    for managed, ratio, margin, act in ((False, 2, 24, end), (True, 1, 48, ("key", "alt+F4"))):
         with ExitStack() as stack:
             os.environ["QT_SCALE_FACTOR"] = str(ratio)
             open_screen(stack, managed)
             program = start(stack, path)
-            until_none(lambda: missing(ratio))
+            until_none(lambda: missing(ratio, margin))
             until_none(lambda: ask("xdotool", *act) or program.poll() is None and act)
             if program.returncode != 0:
                 sys.exit(f"FAILED: {act} ended it with status {program.returncode}")

@@ -18,8 +18,6 @@ class EventQueue {
   // more.
   void End();
 
-  bool Ended() const { return ended_; }
-
  private:
   std::deque<std::function<void()>> waiting_;
   bool running_ = false;

@@ -40,7 +40,7 @@ struct Module1 {
   bool PointOnTrack = false;  // the last picked point was a point of the track
   float ForceStartX = 0.0F;   // the last press in the guess mode, sketch units
   float ForceStartY = 0.0F;
-  double VelocityX = 0.0;  // the body's velocity at the last accepted point
+  double VelocityX = 0.0;  // the body's velocity at the last accepted point; no picture needs it
   double VelocityY = 0.0;
 
   double PointerX = 6.0;    // where the keyboard points: the track's point over this abscissa

@@ -6,6 +6,8 @@
 #include <QProxyStyle>
 #include <QScreen>
 
+#include <algorithm>
+
 #include "toolkit/qt/accessibility.h"
 #include "toolkit/qt/text.h"
 #include "toolkit/qt/window_mirror.h"
@@ -36,14 +38,31 @@ class Style : public QProxyStyle {
   }
 };
 
-QSize ScreenSize() {
-  const QScreen* screen = QApplication::primaryScreen();
-  return screen != nullptr ? screen->geometry().size() : QSize(1024, 768);
-}
+// The whole screen, and the part of it that panels leave free.
+struct Screen {
+  QSize size{1024, 768}, free{size};
+
+  Screen() {
+    if (const QScreen* screen = QApplication::primaryScreen()) {
+      size = screen->geometry().size();
+      free = screen->availableSize();
+    }
+  }
+
+  // The layout gives three quarters of the screen's height to the sketch. On a low screen, as a
+  // small one that its user has set to large letters, what is above and under it must shrink.
+  double Zoom() const {
+    constexpr double kAroundSketch = 16.0 + 99.0;  // the margin, three rows of buttons
+    constexpr double kTitleAndMenu = 54.0;
+    constexpr double kLeast = 0.5;  // smaller letters can't be read
+    const double room = free.height() - kTitleAndMenu - 0.75 * size.height();
+    return std::clamp(room / kAroundSketch, kLeast, 1.0);
+  }
+};
 
 }  // namespace
 
-QtDesktop::QtDesktop(QApplication& application) {
+QtDesktop::QtDesktop(QApplication& application) : zoom_(Screen().Zoom()) {
   QApplication::setStyle(new Style(&application));
   QApplication::setPalette(LightPalette());
   // The layout is the same in every language.
@@ -60,16 +79,16 @@ int QtDesktop::Run() {
 }
 
 float QtDesktop::ScreenWidth() const {
-  return Twips(ScreenSize()).Of(ScreenSize().width());
+  return Twips(zoom_).Of(Screen().size.width());
 }
 
 float QtDesktop::ScreenHeight() const {
-  return Twips(ScreenSize()).Of(ScreenSize().height());
+  return Twips(zoom_).Of(Screen().size.height());
 }
 
 void QtDesktop::Create(Window& window) {
   QApplication::setApplicationDisplayName(Text(window.Caption));
-  mirror_ = std::make_unique<WindowMirror>(window, Twips(ScreenSize()));
+  mirror_ = std::make_unique<WindowMirror>(window, Twips(zoom_));
 }
 
 void QtDesktop::Destroy(Window&) {

@@ -29,6 +29,7 @@ class QtDesktop : public Desktop {
   void End() override;
 
  private:
+  double zoom_;  // logical pixels to one of the program's
   std::unique_ptr<WindowMirror> mirror_;
   bool ended_ = false;
 };

@@ -63,11 +63,14 @@ void SketchWidget::paintEvent(QPaintEvent*) {
   FitCanvas();
   QPainter painter(this);
   painter.fillRect(rect(), palette().base());
-  PaintFrame(painter, rect(), palette().color(hasFocus() ? QPalette::Highlight : QPalette::Dark));
   // Without the ratio's scale the picture goes to whole device pixels, one for one.
   const double ratio = canvas_.Ratio();
   painter.scale(1.0 / ratio, 1.0 / ratio);
   painter.drawImage(QPointF(kFramePixels * ratio, kFramePixels * ratio), canvas_.Look());
+  painter.scale(ratio, ratio);
+  // Afterwards: at a fractional ratio the picture may reach a pixel into it.
+  PaintFrame(painter, rect(), palette().color(hasFocus() ? QPalette::Highlight : QPalette::Dark));
+  painter.scale(1.0 / ratio, 1.0 / ratio);
   if (!hasFocus() || !pointer) return;
   if (const auto at = pointer()) PaintPointer(painter, *at);
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QRect>
-#include <QSize>
 
 #include <algorithm>
 #include <cmath>
@@ -10,11 +9,10 @@
 
 namespace toolkit::qt {
 
-// Rounds twips to Qt's logical pixels. Of those `zoom` make 15 twips: 1, or less on a screen that
-// is too low for the layout, as a small one that its user has set to large letters.
+// Rounds twips to Qt's logical pixels. Of those `zoom` make 15 twips.
 class Twips {
  public:
-  explicit Twips(QSize screen) : zoom_(std::clamp(screen.height() / kLowest, kLeast, 1.0)) {}
+  explicit Twips(double zoom) : zoom_(zoom) {}
 
   double Zoom() const { return zoom_; }
 
@@ -35,11 +33,6 @@ class Twips {
   float Of(int pixels) const { return static_cast<float>(pixels / zoom_) * kTwipsPerPixel; }
 
  private:
-  // Under the sketch, three quarters of the screen high, are three rows of buttons, and above it
-  // the menu and the title bar: this is what they need. Below half of it letters can't be read.
-  static constexpr double kLowest = 720.0;
-  static constexpr double kLeast = 0.5;
-
   double zoom_;
 };
 
