@@ -3,24 +3,25 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source packaging/setup.sh
+source packaging/screen.sh
 
 need build run screen test
 build release firststep
+
+scratch=$(mktemp -d)
+server='' program=''
+trap 'kill $program $server 2>/dev/null || true; wait; rm -rf "$scratch"' EXIT
+
+window_is_shown() { xdotool search --onlyvisible --name "^first explanation$" >/dev/null 2>&1; }
 
 # Starts the program on a display of its own, lets "$2..." act on it and takes the picture $1.
 picture() {
   local name=$1
   shift
-  local ready
-  ready=$(mktemp)
-  Xvfb -displayfd 3 -screen 0 1366x768x24 -noreset 3>"$ready" >/dev/null 2>&1 &
-  local server=$!
-  until [[ -s $ready ]]; do sleep 0.1; done
-  export DISPLAY=:$(<"$ready")
-  rm "$ready"
+  open_screen "$scratch"
   build/release/firststep 2>/dev/null &
-  local program=$!
-  until xdotool search --onlyvisible --name "first explanation" >/dev/null 2>&1; do sleep 0.1; done
+  program=$!
+  await $program window_is_shown
   sleep 1
   "$@"
   sleep 0.5

@@ -3,6 +3,7 @@
 # the package: check.sh [BUILD_DIR], everything being built there.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
+source packaging/screen.sh
 
 built=$(realpath "${1:-build/ci}")
 id=org.example.FirstStep
@@ -33,17 +34,11 @@ check_tree() {
 # Starts the program $1 on a display of its own and ends it when its window is there, under the
 # name by which a desktop finds the icon.
 check_start() {
-  local end=$((SECONDS + 30)) title
-  Xvfb -displayfd 3 -screen 0 1366x768x24 3>"$scratch/display" >"$scratch/server.log" 2>&1 &
-  server=$!
-  until [[ -s $scratch/display ]]; do
-    ((SECONDS < end)) || fail "The virtual display did not start: $(<"$scratch/server.log")"
-    sleep 0.1
-  done
-  DISPLAY=:$(<"$scratch/display") QT_QPA_PLATFORM=xcb "$1" >"$scratch/program.log" 2>&1 3>&- &
+  local title
+  open_screen "$scratch" || fail "The virtual display did not start: $(<"$scratch/server.log")"
+  QT_QPA_PLATFORM=xcb "$1" >"$scratch/program.log" 2>&1 &
   shown=$!
-  title=$(DISPLAY=:$(<"$scratch/display") timeout 30 \
-    xdotool search --sync --onlyvisible --class '^firststep$' getwindowname) || true
+  title=$(timeout 30 xdotool search --sync --onlyvisible --class '^firststep$' getwindowname) || true
   [[ $title == "first explanation" ]] ||
     fail "The program did not show its window: $(<"$scratch/program.log")"
 }
