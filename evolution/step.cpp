@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 #include "scenes/parts.h"
 #include "window/format.h"
@@ -17,6 +18,9 @@ constexpr sketch::Colour kMark{255, 0, 0};
 
 // The body leaves the sketch at x = 20; the run goes on a little, so that its arrows leave too.
 constexpr double kEnd = 30.0;
+
+// Nothing of a mark this far from the sketch reaches it, not even a label on a small one.
+constexpr double kFarAway = 100.0;
 
 constexpr int kReferenceStep = 60;
 
@@ -44,10 +48,13 @@ void UpdateLabels(window::MarkLabels& labels, const window::PathRecords& path, i
   }
 }
 
-void DrawMark(sketch::Sketch& eikona, double x, double y, const std::string& label) {
+// A red mark over the path's dot of step n, with its label.
+void DrawMark(sketch::Sketch& eikona, const window::PathRecords& path, std::size_t n,
+              const std::string& label) {
+  eikona.PSet(path.PathX[n], path.PathY[n]);
   eikona.DrawWidth = 3;
-  eikona.PSet(x, y, kMark);
-  if (!label.empty()) scenes::PrintAt(eikona, x, y, label);
+  eikona.PSet(path.PathX[n], path.PathY[n], kMark);
+  if (!label.empty()) scenes::PrintAt(eikona, path.PathX[n], path.PathY[n], label);
   eikona.DrawWidth = 1;
 }
 
@@ -56,12 +63,20 @@ void DrawPath(sketch::Sketch& eikona, window::Module1& module) {
   const window::MarkLabels& labels = module.labels;
   const auto interval = static_cast<std::size_t>(labels.interval);
   const auto places = static_cast<std::size_t>(module.StepCount) + 1;
+  module.trail.Update(eikona, std::span(path.PathX).first(places), path.PathY);
   for (std::size_t mark = 0; mark * interval < places; ++mark) {
     const std::size_t first = mark * interval;
-    eikona.PSet(path.PathX[first], path.PathY[first]);
-    DrawMark(eikona, path.PathX[first], path.PathY[first], labels.texts[mark]);
-    const std::size_t count = std::min(interval, places - first) - 1;
-    module.trail.Draw(eikona, path.PathX, path.PathY, first + 1, count);
+    const std::size_t end = std::min(first + interval, places);
+    std::size_t next = first + 1;
+    if (std::abs(path.PathX[first]) < kFarAway) {
+      DrawMark(eikona, path, first, labels.texts[mark]);
+      // The mark lies on the next dot too, which for the trail may be the same as its own.
+      if (next < end) {
+        eikona.PSet(path.PathX[next], path.PathY[next]);
+        ++next;
+      }
+    }
+    module.trail.Draw(eikona, next, end - next);
   }
 }
 

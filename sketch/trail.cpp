@@ -33,24 +33,13 @@ void Trail::Change(std::size_t index) {
   mapped_ = index;
 }
 
-void Trail::Draw(Sketch& sketch, std::span<const double> xs, std::span<const double> ys,
-                 std::size_t first, std::size_t count) {
-  if (count == 0) return;
+void Trail::Update(const Sketch& sketch, std::span<const double> xs, std::span<const double> ys) {
   if (!(mapping_ == sketch.ToPixels()) || side_ != sketch.DotSide()) {
     Change(0);
     mapping_ = sketch.ToPixels();
     side_ = sketch.DotSide();
   }
-  Map(xs, ys, first + count);
-  // Something may have been drawn over the dot before the first one, so that one is always drawn.
-  sketch.PSet(xs[first], ys[first]);
-  const std::size_t from = KeptBefore(first + 1);
-  const std::size_t to = KeptBefore(first + count);
-  sketch.PSetPixels(std::span(places_).subspan(from, to - from));
-}
-
-void Trail::Map(std::span<const double> xs, std::span<const double> ys, std::size_t end) {
-  for (; mapped_ < end; ++mapped_) {
+  for (; mapped_ < xs.size(); ++mapped_) {
     const Point place = mapping_(xs[mapped_], ys[mapped_]);
     if (!Shows(place, mapping_.size)) continue;
     if (mapped_ > 0) {
@@ -62,7 +51,15 @@ void Trail::Map(std::span<const double> xs, std::span<const double> ys, std::siz
   }
 }
 
+void Trail::Draw(Sketch& sketch, std::size_t first, std::size_t count) const {
+  const std::size_t from = KeptBefore(first);
+  const std::size_t to = KeptBefore(first + count);
+  sketch.PSetPixels(std::span(places_).subspan(from, to - from));
+}
+
 std::size_t Trail::KeptBefore(std::size_t index) const {
+  // Most asked for, by a body that has left the sketch for good.
+  if (indices_.empty() || indices_.back() < index) return indices_.size();
   return static_cast<std::size_t>(std::lower_bound(indices_.begin(), indices_.end(), index) -
                                   indices_.begin());
 }

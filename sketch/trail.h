@@ -13,15 +13,15 @@ namespace sketch {
 // one on the same pixels as the dot before. A body that creeps leaves thousands of those.
 class Trail {
  public:
-  // Draws dots first to first + count - 1 of the row (xs[i], ys[i]), in user units, as PSet would
-  // draw each: in the foreground colour at the current width.
-  void Draw(Sketch& sketch, std::span<const double> xs, std::span<const double> ys,
-            std::size_t first, std::size_t count);
   // The row's entries from `index` on are no longer what they were.
   void Change(std::size_t index);
+  // Takes over the row (xs[i], ys[i]), in user units, and the size and scale of the sketch.
+  void Update(const Sketch& sketch, std::span<const double> xs, std::span<const double> ys);
+  // Draws dots first to first + count - 1 of the row that was taken over, as PSet would draw each:
+  // in the foreground colour at the current width.
+  void Draw(Sketch& sketch, std::size_t first, std::size_t count) const;
 
  private:
-  void Map(std::span<const double> xs, std::span<const double> ys, std::size_t end);
   std::size_t KeptBefore(std::size_t index) const;
 
   Mapping mapping_{};

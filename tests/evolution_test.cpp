@@ -54,6 +54,7 @@ struct Journey : Motion {
   }
 
   void ExpectLabel(int i) {
+    if (std::abs(path.PathX[i]) >= 100) return;  // far from the sketch
     const double Ds60 = path.PathDs[60];
     if (i < 30 || (i != 60 && (i <= gap + 1 || std::abs(Ds60) < 1e-9))) return;
     const auto two = [](double value) { return window::Format(value, 2); };
