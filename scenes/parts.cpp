@@ -4,6 +4,8 @@
 
 namespace scenes {
 
+// Tenths in half steps, multiplied in this order: the last digit may decide whether a body that
+// stops at a sample still reaches it.
 double SampleAbscissa(int sample) {
   return 0.1 * (0.5 * sample);
 }

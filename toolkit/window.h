@@ -42,7 +42,7 @@ class Window : public ControlSite, public Component {
   const std::string Caption;
   Property<float> Left, Top, Width, Height;  // the outer size, in twips
   Property<bool> Visible;
-  Property<int> FontCharset;
+  Property<int> FontCharset;  // for backends whose fonts come by character set
 
   std::vector<MenuItem*> menus;
   std::vector<Timer*> timers;
