@@ -39,7 +39,9 @@ TEST(KeyboardOnTheSketch, JudgesOnlyWhenShiftIsLetGo) {
   for (int end = 0; end < 4; ++end) {
     Keyboard k;
     k.Type(Key::Up, 3, 1);
+    k.Forget();
     if (end < 2) k.Type(end == 0 ? Key::Cancel : Key::Right);
+    EXPECT_EQ(k.Said().find("FORCE:"), std::string::npos);
     if (end == 2) k.window->DYNAMEISDIAFORES.UserClick();
     if (end == 3) k.Press(18, -2);
     EXPECT_EQ(k.eikona.PointerOnCanvas()->tip.has_value(), end == 2);
