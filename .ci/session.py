@@ -9,16 +9,15 @@ socket but those that the libraries under it need, and leave nothing behind."""
 import hashlib
 import os
 import re
-import subprocess
 import sys
 import tempfile
 import time
-from contextlib import contextmanager
+from contextlib import ExitStack
 
-WIDTH, HEIGHT = 1366, 768
-PATIENCE = 60  # seconds
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, "tests"))
+from end_to_end_test import PATIENCE, ask, open_screen, start, until_none
+
 TOP, UNDER = 36, 611  # of the sketch's inside, and the rows of controls under it
-QUIET = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
 
 # Sockets of the libraries under the program: the display, the C library's cache of user names, the
 # session's and the system's message buses.
@@ -74,62 +73,39 @@ SESSION = [
 ENDS = {'"end"': "alt+e", "the window manager": "alt+F4"}
 
 
-def until(attempt, what):
-    end = time.monotonic() + PATIENCE
-    while not (result := attempt()):
-        if time.monotonic() > end:
-            sys.exit(f"FAILED: {what}, after {PATIENCE} seconds")
-        time.sleep(0.05)
-    return result
+def picture():
+    return hashlib.md5(ask("import", "-silent", "-window", "root", "ppm:-")).digest()
 
 
-@contextmanager
-def running(*command, **options):
-    with subprocess.Popen(command, stdin=subprocess.DEVNULL, **options) as process:
-        try:
-            yield process
-        finally:
-            process.kill()
+def settled():
+    """The picture when it has stopped to change, or whatever it is after a while."""
+    seen, end = None, time.monotonic() + 1
+    while (last := seen) != (seen := picture()) and time.monotonic() < end:
+        pass
+    return seen
 
 
-class Screen:
-    def __init__(self, display, home):
-        here = os.path.dirname(os.path.abspath(__file__))
-        self.environment = {
-            "PATH": os.environ["PATH"], "DISPLAY": f":{display}", "QT_QPA_PLATFORM": "xcb",
-            # Without a bus, libdbus would start one that outlives us all.
-            "DBUS_SESSION_BUS_ADDRESS": "disabled:", "HOME": home, "XDG_RUNTIME_DIR": home,
-            "LSAN_OPTIONS": f"suppressions={here}/../tests/leaks.supp:print_suppressions=0"}
-
-    def ask(self, *command):
-        return subprocess.run(command, env=self.environment, timeout=PATIENCE, check=False,
-                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
-
-    def picture(self):
-        return hashlib.md5(self.ask("import", "-silent", "-window", "root", "ppm:-")).digest()
-
-    def settled(self):
-        """The picture when it has stopped to change, or whatever it is after a while."""
-        picture, end = None, time.monotonic() + 1
-        while (last := picture) != (picture := self.picture()) and time.monotonic() < end:
-            pass
-        return picture
+def windows(*which):
+    return ask("xdotool", *which).decode().split()
 
 
-def play(screen, command, how):
-    with running(*command, env=screen.environment) as program:
-        window = until(lambda: screen.ask("xdotool", "search", "--onlyvisible", "--name",
-                                          "^first explanation$"), "no window").decode().split()[0]
-        until(lambda: screen.ask("xdotool", "getactivewindow").decode().strip() == window,
-              "the window is not active")
-        for what, action in SESSION:
-            before = screen.settled()
-            screen.ask("xdotool", *(window if word == "WINDOW" else word for word in action))
-            until(lambda before=before: screen.picture() != before, f"no change by: {what}")
-        screen.ask("xdotool", "key", ENDS[how])
-        status = program.wait(PATIENCE)
-        if status != 0:
-            sys.exit(f"FAILED: ended by {how} with status {status}")
+def play(stack, command, how, home):
+    # Without a bus, libdbus would start one that outlives us all.
+    own = {"DBUS_SESSION_BUS_ADDRESS": "disabled:", "HOME": home, "XDG_RUNTIME_DIR": home}
+    kept = ("PATH", "DISPLAY", "QT_QPA_PLATFORM", "LSAN_OPTIONS")
+    program = start(stack, *command, env=own | {name: os.environ[name] for name in kept})
+    search = ("search", "--onlyvisible", "--name", "^first explanation$")
+    until_none(lambda: not windows(*search) and "no window")
+    window = windows(*search)[0]
+    until_none(lambda: windows("getactivewindow") != [window] and "the window is not active")
+    for what, action in SESSION:
+        before = settled()
+        ask("xdotool", *(window if word == "WINDOW" else word for word in action))
+        until_none(lambda what=what, before=before: picture() == before and f"no change by: {what}")
+    ask("xdotool", "key", ENDS[how])
+    status = program.wait(PATIENCE)
+    if status != 0:
+        sys.exit(f"FAILED: ended by {how} with status {status}")
 
 
 def examine(log):
@@ -162,29 +138,15 @@ def left_behind(log, home):
         f"file {name}" for name in os.listdir(home) if name != ".cache"]
 
 
-@contextmanager
-def managed_display(scratch):
-    """The number of a new display with a window manager."""
-    reader, writer = os.pipe()
-    with running("Xvfb", "-displayfd", str(writer), "-screen", "0", f"{WIDTH}x{HEIGHT}x24",
-                 "-noreset", pass_fds=[writer], **QUIET):
-        os.close(writer)
-        with os.fdopen(reader) as number:
-            display = number.readline().strip()
-        screen = Screen(display, scratch)
-        with running("openbox", "--sm-disable", env=screen.environment, **QUIET):
-            until(lambda: b"window id" in screen.ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
-                  "no window manager")
-            yield display
-
-
 def main(program, tracer=None):
-    with tempfile.TemporaryDirectory() as scratch, managed_display(scratch) as display:
+    with ExitStack() as stack:
+        scratch = stack.enter_context(tempfile.TemporaryDirectory())
+        open_screen(stack)
         for how in ENDS:
             home, trace = tempfile.mkdtemp(dir=scratch), os.path.join(scratch, "trace")
             calls = "trace=%file,%network,shmget,memfd_create,fchmod,fchown"
             wrapper = ["strace", "-f", "--seccomp-bpf", "-e", calls, "-o", trace] if tracer else []
-            play(Screen(display, home), [*wrapper, program], how)
+            play(stack, [*wrapper, program], how, home)
             if tracer:
                 with open(trace, encoding="utf-8", errors="replace") as log:
                     lines = list(log)

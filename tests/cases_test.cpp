@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "harness.h"
+#include "track/carlson.h"
 #include "window/format.h"
 
 namespace {
@@ -40,6 +41,10 @@ TEST(Cases, EveryHandlerFromEveryCase) {
       const auto want = handler.After(State(*p.window)) + (again ? "cT" : handler.picture);
       handler.run(*p.window);
       EXPECT_EQ(State(*p.window) + Picture(p), want) << name << " after " << way;
+      // A scroll bar that is set to the value it has changes nothing.
+      if (handler.picture != "cFT" || !handler.effect.empty()) continue;
+      p.Forget(), handler.run(*p.window);
+      EXPECT_TRUE(p.Operations().empty()) << name;
     }
   }
 }
@@ -59,10 +64,38 @@ TEST(Cases, CaptionsInTheirSpacings) {
   const std::string at = "|Επιτρόχιος επιτάχυνση", v = "|Αρχική ταχύτητα";
   EXPECT_EQ(after({20, 15, 20, 3, 50}),
             "Πλάτος =2.0|Συχνότης=1.5" + at + "= 2.00" + v + " = 3|Δt = 0.02|");
-  EXPECT_EQ(after({36, 61, -36, -1, 9}),
+  EXPECT_EQ(after({36, 65537, -65537, -1, 9}),
             "Πλάτος =3.5|Συχνότης=6.0" + at + " = -3.5" + v + "= 0|Δt = 0.100|");
   p.Scroll({0, 0, 36, 16, 301}), w.Option3.UserClick();
   EXPECT_EQ(after({}), "Πλάτος =0.1|Συχνότης=0.1" + at + "= 3.50" + v + " = 15|Δt = 0.003|");
+}
+
+// What comes in while a handler shows a message waits for its end; after "STOP" no tick is heard,
+// after "end" nothing.
+TEST(Events, WaitWhileAMessageIsOpen) {
+  for (const bool end : {false, true}) {
+    Program p;
+    Window& w = *p.window;
+    std::string log;
+    w.VIMA.Click = [&] { log += track::CarlsonRF(-1, 1, 1) == 0 ? "()" : "?"; };
+    w.epitaxyno.Change = [&] { log += 's'; };
+    w.Timer1.Tick = [&] { log += 't'; };
+    w.Option1.Click = [&] { log += 'o'; };
+    w.Timer1.Enabled = true;
+    p.desktop.whileMessageIsOpen = [&] {
+      w.epitaxyno.UserScroll(-3);
+      if (!end) w.STAMATHMA.UserClick();
+      for (int i = 0; i < 2; ++i) p.desktop.Tick();  // the second finds the first still waiting
+      if (end) w.TERMATISMOS.UserClick();
+      w.Option1.UserClick();
+      EXPECT_TRUE(w.epitaxyno.Value == 20 && log.empty() && !p.desktop.ended);
+    };
+    w.VIMA.UserClick();
+    w.events.Deliver(w.Timer1.Tick);
+    EXPECT_EQ(log, end ? "()st" : "()sot");
+    EXPECT_TRUE(p.desktop.ended == end && !w.Timer1.Enabled);
+    EXPECT_EQ(p.desktop.messages, std::vector<std::string>{"invalid arguments in rf"});
+  }
 }
 
 TEST(Format, RoundsHalfAwayFromZero) {

@@ -60,7 +60,7 @@ TEST_F(QtCanvas, HugeNumbersShowWhatCrossesThePicture) {
   QImage shown[2];
   for (const bool huge : {false, true}) {
     Sheet sheet(200, 1.0);
-    const double far = huge ? 1e300 : 500;
+    const double far = huge ? 1.7e308 : 500;
     sheet.Line({-far, 0.4 - far}, {40, 40.4}, {kRed, 1});
     sheet.Line({40, 40.4}, {far, 0.4 + far}, {kRed, 2});
     sheet.Line({far, 100.2}, {-far, 100.2}, {kInk, 3});
@@ -70,6 +70,8 @@ TEST_F(QtCanvas, HugeNumbersShowWhatCrossesThePicture) {
     shown[huge] = sheet.Look();
   }
   EXPECT_EQ(shown[0], shown[1]);
+  EXPECT_TRUE(shown[0].pixel(20, 20) != qRgb(255, 255, 255) &&
+              shown[0].pixel(9, 100) == qRgb(1, 0, 66));
 }
 
 // Told by the distance from the centre in a longer mantissa, independently of how it is drawn.
@@ -78,7 +80,7 @@ TEST_F(QtCanvas, CirclesOfAnyRadiusLieWhereTheyShould) {
     const bool dotted = i % 2 == 1;
     const double radius = std::pow(10.0, 1.25 + i / 8.0), angle = 0.7 * i, ratio = 1 + i / 2 % 2;
     Sheet sheet(800, ratio);
-    const Point touch{400.3 * ratio, 390.6 * ratio};
+    const Point touch{(400.3 + 350 * std::sin(2.1 * i)) * ratio, (390.6 + 2.5 * i) * ratio};
     sheet.Circle({touch, {std::cos(angle), std::sin(angle)}, radius}, {{0, 0, 0}, 1, dotted});
     const long double turn = angle;
     const auto x = touch.x + radius * std::cos(turn), y = touch.y + radius * std::sin(turn);
@@ -93,7 +95,13 @@ TEST_F(QtCanvas, CirclesOfAnyRadiusLieWhereTheyShould) {
       ink += part, off += part * gap;
     }
     // A solid line has as much ink as it is long and wide; both have it evenly on both sides.
-    const double length = std::min(700 * ratio, 2 * std::numbers::pi * radius);
+    const double half = std::min(std::numbers::pi * radius, 1600 * ratio);
+    int length = 0;
+    for (double s = -half; s < half; ++s) {
+      const long double at = turn + s / radius;
+      length += seen.valid(static_cast<int>(x - radius * std::cos(at)),
+                           static_cast<int>(y - radius * std::sin(at)));
+    }
     EXPECT_GT(ink, (dotted ? 0.35 : 0.9) * length * ratio) << radius << ' ' << angle;
     EXPECT_LT(std::abs(off / ink), dotted ? 0.1 : 0.02) << radius << ' ' << angle;
   }

@@ -1,25 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "harness.h"
-#include "sketch/draw_vector.h"
 
 namespace {
-
-TEST(Sketch, NothingInfiniteReachesTheCanvas) {
-  const double odd[] = {0, -1, 1e9, 1e200, 1.7e308, -1.7e308, HUGE_VAL, -HUGE_VAL, std::nan("")};
-  Program p;
-  sketch::Sketch& s = p.window->eikona;
-  for (int i = 0; i < 9 * 9 * 9 * 9; ++i) {
-    const double a = odd[i % 9], b = odd[i / 9 % 9], c = odd[i / 81 % 9], d = odd[i / 729];
-    sketch::DrawVector(a, b, c, d, s, 0, 0, 0);
-    s.Circle(a, b, c, 0, d, Motion::kRed);
-    s.PSet(s.CurrentX = a, s.CurrentY = b);
-    s.Print("x");
-  }
-  for (const auto& o : p.Operations()) {
-    ASSERT_TRUE(std::isfinite(o.from.x + o.from.y + o.to.x + o.to.y + o.radius));
-  }
-}
 
 struct Scene : Motion {
   using Motion::Motion;
