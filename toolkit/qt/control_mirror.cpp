@@ -9,8 +9,8 @@
 
 namespace toolkit::qt {
 
-ControlMirror::ControlMirror(Control& control, const Twips& twips, std::unique_ptr<QWidget> widget,
-                             std::function<void()> show)
+ControlMirror::ControlMirror(Control& control, const TwipScale& twips,
+                             std::unique_ptr<QWidget> widget, std::function<void()> show)
     : control_(control), twips_(twips), widget_(std::move(widget)), show_(std::move(show)) {
   widget_->setObjectName(Text(control.Name));
   widget_->setAccessibleName(Text(control.AccessibleName));

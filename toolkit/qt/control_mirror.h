@@ -15,7 +15,7 @@ namespace toolkit::qt {
 class ControlMirror : public Mirror {
  public:
   // `show` brings to the widget what only this kind of control has.
-  ControlMirror(Control& control, const Twips& twips, std::unique_ptr<QWidget> widget,
+  ControlMirror(Control& control, const TwipScale& twips, std::unique_ptr<QWidget> widget,
                 std::function<void()> show);
   ~ControlMirror() override;
   ControlMirror(const ControlMirror&) = delete;
@@ -25,13 +25,13 @@ class ControlMirror : public Mirror {
 
  private:
   Control& control_;
-  Twips twips_;
+  TwipScale twips_;
   std::unique_ptr<QWidget> widget_;
   std::function<void()> show_;
 };
 
 // A mirror for each of the controls. Their widgets are children of `client`, in the same tab order.
 std::vector<std::unique_ptr<Mirror>> MirrorControls(const std::vector<Control*>& controls,
-                                                    const Twips& twips, QWidget& client);
+                                                    const TwipScale& twips, QWidget& client);
 
 }  // namespace toolkit::qt

@@ -79,16 +79,16 @@ int QtDesktop::Run() {
 }
 
 float QtDesktop::ScreenWidth() const {
-  return Twips(zoom_).Of(Screen().size.width());
+  return TwipScale(zoom_).TwipsOf(Screen().size.width());
 }
 
 float QtDesktop::ScreenHeight() const {
-  return Twips(zoom_).Of(Screen().size.height());
+  return TwipScale(zoom_).TwipsOf(Screen().size.height());
 }
 
 void QtDesktop::Create(Window& window) {
   QApplication::setApplicationDisplayName(Text(window.Caption));
-  mirror_ = std::make_unique<WindowMirror>(window, Twips(zoom_));
+  mirror_ = std::make_unique<WindowMirror>(window, TwipScale(zoom_));
 }
 
 void QtDesktop::Destroy(Window&) {

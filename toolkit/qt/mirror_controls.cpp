@@ -19,7 +19,8 @@ namespace {
 class PictureMirror : public ControlMirror {
  public:
   // Becomes the owner of the widget.
-  PictureMirror(PictureBox& box, const Twips& twips, SketchWidget* shown, AnnouncementWidget* voice)
+  PictureMirror(PictureBox& box, const TwipScale& twips, SketchWidget* shown,
+                AnnouncementWidget* voice)
       : ControlMirror(box, twips, std::unique_ptr<QWidget>(shown),
                       [&box, shown] {
                         shown->FitCanvas();
@@ -49,7 +50,7 @@ class PictureMirror : public ControlMirror {
 // turn, and then the screen waits with it.
 class Builder : public ControlVisitor {
  public:
-  Builder(const Twips& twips, QWidget& client)
+  Builder(const TwipScale& twips, QWidget& client)
       : twips_(twips), client_(client), voice_(new AnnouncementWidget(&client)) {}
 
   void Visit(Label& label) override {
@@ -126,7 +127,7 @@ class Builder : public ControlVisitor {
     last_ = shown;
   }
 
-  Twips twips_;
+  TwipScale twips_;
   QWidget& client_;
   AnnouncementWidget* voice_;  // the client's child
   QWidget* last_ = nullptr;
@@ -136,7 +137,7 @@ class Builder : public ControlVisitor {
 }  // namespace
 
 std::vector<std::unique_ptr<Mirror>> MirrorControls(const std::vector<Control*>& controls,
-                                                    const Twips& twips, QWidget& client) {
+                                                    const TwipScale& twips, QWidget& client) {
   Builder builder(twips, client);
   for (Control* control : controls) control->Accept(builder);
   return builder.Take();

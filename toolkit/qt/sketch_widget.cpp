@@ -65,14 +65,15 @@ void SketchWidget::paintEvent(QPaintEvent*) {
   painter.fillRect(rect(), palette().base());
   // Without the ratio's scale the picture goes to whole device pixels, one for one.
   const double ratio = canvas_.Ratio();
+  painter.save();
   painter.scale(1.0 / ratio, 1.0 / ratio);
   painter.drawImage(QPointF(kFramePixels * ratio, kFramePixels * ratio), canvas_.Look());
-  painter.scale(ratio, ratio);
-  // Afterwards: at a fractional ratio the picture may reach a pixel into it.
+  if (hasFocus() && pointer) {
+    if (const auto at = pointer()) PaintPointer(painter, *at);
+  }
+  painter.restore();
+  // Last: at a fractional ratio the picture may reach a pixel into it.
   PaintFrame(painter, rect(), palette().color(hasFocus() ? QPalette::Highlight : QPalette::Dark));
-  painter.scale(1.0 / ratio, 1.0 / ratio);
-  if (!hasFocus() || !pointer) return;
-  if (const auto at = pointer()) PaintPointer(painter, *at);
 }
 
 // A ring around the place and a dashed line to a small one at the tip, on a white edge that keeps

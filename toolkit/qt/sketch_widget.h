@@ -14,7 +14,7 @@ namespace toolkit::qt {
 // and the keys that come while it has the focus.
 class SketchWidget : public QWidget {
  public:
-  // `zoom` as for Twips.
+  // `zoom` as for TwipScale.
   SketchWidget(QWidget* parent, double zoom);
 
   QtCanvas& canvas() { return canvas_; }

@@ -10,9 +10,9 @@
 namespace toolkit::qt {
 
 // Rounds twips to Qt's logical pixels. Of those `zoom` make 15 twips.
-class Twips {
+class TwipScale {
  public:
-  explicit Twips(double zoom) : zoom_(zoom) {}
+  explicit TwipScale(double zoom) : zoom_(zoom) {}
 
   double Zoom() const { return zoom_; }
 
@@ -30,7 +30,7 @@ class Twips {
   }
 
   // A whole number of pixels in twips.
-  float Of(int pixels) const { return static_cast<float>(pixels / zoom_) * kTwipsPerPixel; }
+  float TwipsOf(int pixels) const { return static_cast<float>(pixels / zoom_) * kTwipsPerPixel; }
 
  private:
   double zoom_;

@@ -19,7 +19,8 @@ constexpr int kSettlingLooks = 100;
 
 }  // namespace
 
-WindowMirror::WindowMirror(Window& window, const Twips& twips) : window_(window), twips_(twips) {
+WindowMirror::WindowMirror(Window& window, const TwipScale& twips)
+    : window_(window), twips_(twips) {
   setObjectName(Text(window.Name));
   setWindowTitle(Text(window.Caption));
   setMenuBar(new MenuBarWidget(this));

@@ -14,7 +14,7 @@ namespace toolkit::qt {
 // The window on the screen, with its menu bar, its client area and everything in it.
 class WindowMirror : public QMainWindow, public Mirror {
  public:
-  WindowMirror(Window& window, const Twips& twips);
+  WindowMirror(Window& window, const TwipScale& twips);
   ~WindowMirror() override;
 
   void Refresh() final;
@@ -28,7 +28,7 @@ class WindowMirror : public QMainWindow, public Mirror {
   void FitFrame();
 
   Window& window_;
-  Twips twips_;
+  TwipScale twips_;
   std::vector<std::unique_ptr<Mirror>> controls_, menus_, timers_;
   QRect asked_;      // the inner place that was asked for last
   QTimer settling_;  // runs while the frame may still be on its way
