@@ -18,7 +18,7 @@ QT = re.compile(r"\b(Qt\w*|QT_\w+|Q_[A-Z]+|Q[A-Z][a-z]\w*)\b|\btoolkit/qt/")
 
 faults, graph = [], {}
 tops = {room.split("/")[0] for room in ARROWS} | {"tests", "bench"}
-for path in sorted(path for top in tops for path in (ROOT / top).rglob("*.[hc]*")):
+for path in sorted(p for t in tops for p in (ROOT / t).rglob("*") if p.suffix in (".h", ".cpp")):
     name, text = path.relative_to(ROOT).as_posix(), path.read_text(encoding="utf-8")
     room = Path(name).parent.as_posix()
     graph[name] = re.findall(r'^\s*#\s*include\s*"(.+)"', text, re.M)
