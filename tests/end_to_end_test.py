@@ -58,8 +58,8 @@ def photograph():
 
 
 def missing(ratio, margin):
-    """What the screen lacks: a window that fills it, a square white sketch, ink in its places. Where
-    it is too low for the ratio, the margin shrinks."""
+    """What the screen lacks: a window that fills it, a square white sketch, ink in its places. On
+    one that is low for the ratio, the margin is smaller."""
     frame = ask("xprop", "-name", TITLE, "_NET_FRAME_EXTENTS").decode()
     left, right, top, bottom = re.findall(r"\d+", frame) or "0000"
     place = ask("xwininfo", "-name", TITLE).decode()
