@@ -9,7 +9,7 @@ namespace app {
 
 firststep::firststep(toolkit::Desktop& machine) : Controls(machine) {
   track::InvalidArgumentsReport() = [this](std::string_view text) {
-    desktop.ShowMessage(std::string(text));
+    ShowMessage(std::string(text));
   };
   BindHandlers();
   events.Deliver([this] { Form_Load(); });
@@ -43,6 +43,9 @@ void firststep::BindHandlers() {
   };
   eikona.MouseUp = [this](short button, short shift, float x, float y) {
     eikona_MouseUp(button, shift, x, y);
+  };
+  eikona.CursorOver = [this](float x, float y, bool pressed) {
+    return eikona_Cursor(x, y, pressed);
   };
   eikona.KeyDown = [this](toolkit::Key key, short shift) { eikona_KeyDown(key, shift); };
 }

@@ -44,6 +44,11 @@ struct firststep : window::Controls {
   void eikona_MouseDown(short Button, short Shift, float X, float Y);
   void eikona_MouseUp(short Button, short Shift, float X, float Y);
 
+  // What the mouse pointer looks like at a place of the sketch, as it tells what a press there will
+  // do: a cross where the sketch answers, the pointing hand where a point of the track is picked,
+  // the closed hand while a button is held that has picked one to guess at.
+  toolkit::Cursor eikona_Cursor(float X, float Y, bool pressed) const;
+
   // The keyboard on the sketch (keyboard.cpp): the arrow keys move a point along the track, Pick
   // presses and releases there; in the guess mode SHIFT with the arrow keys pulls a force from it,
   // which is judged when SHIFT is let go.

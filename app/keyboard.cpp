@@ -12,9 +12,11 @@ namespace {
 
 using toolkit::Key;
 
-constexpr double kAlongTrack = 0.1;  // sketch units a key press moves the point, in x
-constexpr double kPull = 0.5;        // sketch units a key press pulls the force's tip
-constexpr double kEnd = 20.0;        // the track's visible end
+constexpr double kAlongTrack = 0.1;  // sketch units that a key press moves the point, in x
+// Sketch units that a key press pulls the force's tip. Fine enough to find, at every place, a force
+// that needs no other.
+constexpr double kPull = 0.25;
+constexpr double kEnd = 20.0;  // the track's visible end
 constexpr double kFarthestTip = 40.0;
 
 struct Direction {
@@ -36,8 +38,8 @@ std::optional<Direction> DirectionOf(Key key) {
   }
 }
 
-std::string PlaceText(double x, double y) {
-  return "x = " + window::Format(x, 1) + ", y = " + window::Format(y, 1);
+std::string PlaceText(double x, double y, int decimals) {
+  return "x = " + window::Format(x, decimals) + ", y = " + window::Format(y, decimals);
 }
 
 }  // namespace
@@ -74,7 +76,7 @@ void firststep::MovePointer(Key key) {
   if (key == Key::Home) x = 0.0;
   if (key == Key::End) x = kEnd;
   PutPointerOnTrack();
-  eikona.Announce(PlaceText(x, eikona.KeyPointer.Get()->y));
+  eikona.Announce(PlaceText(x, eikona.KeyPointer.Get()->y, 1));
 }
 
 void firststep::PutPointerOnTrack() {
@@ -102,7 +104,7 @@ void firststep::PullForce(Key key) {
   pulled.tipX = std::clamp(pulled.tipX + kPull * direction.x, -kFarthestTip, kFarthestTip);
   pulled.tipY = std::clamp(pulled.tipY + kPull * direction.y, -kFarthestTip, kFarthestTip);
   eikona.KeyPointer = pulled;
-  eikona.Announce("Force " + PlaceText(pulled.tipX - pulled.x, pulled.tipY - pulled.y));
+  eikona.Announce("Force " + PlaceText(pulled.tipX - pulled.x, pulled.tipY - pulled.y, 2));
 }
 
 void firststep::ReleaseForce(short Shift) {

@@ -68,6 +68,8 @@ void firststep::ArrangeWindow() {
   Text1.FontName = "Times New Roman";
   Text1.FontSize = 12.0F;
 
+  // The canvas must have the sketch's new size before the picture is drawn.
+  ShowChanges();
   scenes::DrawCurvatureScene(*this);
   Text1.Text =
       "We examine the effect of the shape of the curve and of the speed on the centripetal "

@@ -26,4 +26,12 @@ void firststep::eikona_MouseUp(short /*Button*/, short Shift, float X, float Y) 
   }
 }
 
+toolkit::Cursor firststep::eikona_Cursor(float X, float Y, bool pressed) const {
+  using toolkit::Cursor;
+  if (!DYNAMEISDIAFORES.Checked && !GUESSFORCE.Checked) return Cursor::Arrow;
+  if (GUESSFORCE.Checked && pressed && module.PointOnTrack) return Cursor::ClosedHand;
+  const bool onTrack = interaction::IsOnTrack(window::TrackParameters(*this), {X, Y});
+  return onTrack ? Cursor::PointingHand : Cursor::Cross;
+}
+
 }  // namespace app

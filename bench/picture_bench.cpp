@@ -7,13 +7,12 @@
 #include "app/firststep.h"
 #include "scenes/parts.h"
 #include "toolkit/headless/desktop.h"
-#include "toolkit/qt/canvas.h"
+#include "toolkit/qt/letters.h"
+#include "toolkit/raster/canvas.h"
 
 namespace {
 
-using toolkit::qt::QtCanvas;
-
-// The program on a headless desktop, drawing on the real canvas of `side` pixels.
+// The program on a headless desktop, drawing on the real canvas of `side` pixels with real letters.
 struct Bench {
   explicit Bench(int side) : window(app::Main(desktop)) {
     canvas.Resize({side, side}, 1.0);
@@ -22,8 +21,19 @@ struct Bench {
   }
   toolkit::headless::HeadlessDesktop desktop{1440, 1080};
   std::unique_ptr<app::firststep> window;
-  QtCanvas canvas{[] {}};
+  toolkit::qt::Letters letters;
+  toolkit::raster::RasterCanvas canvas{toolkit::qt::kPacking, letters};
 };
+
+// A run that goes out and comes back on the sketch, `steps` long, `pace` steps to a unit of time.
+void Run(app::firststep& window, int steps, int pace) {
+  window.vimatimi.UserScroll(pace);
+  window.arxikives.UserScroll(2);
+  window.epitaxyno.UserScroll(-1);
+  window.Option2.UserClick();
+  window.Command1.UserClick();
+  for (int step = 1; step < steps; ++step) window.VIMA.UserClick();
+}
 
 // From the change of a scroll bar's value to the finished picture, over all frequencies.
 void FactorsScene(benchmark::State& state) {
@@ -33,17 +43,12 @@ void FactorsScene(benchmark::State& state) {
 }
 BENCHMARK(FactorsScene)->Arg(810)->Arg(1620)->Unit(benchmark::kMicrosecond);
 
-// One step of a run that goes out and comes back on the sketch, at step N.
+// One step of the run, at step N.
 void EvolutionStep(benchmark::State& state) {
   Bench bench(810);
   app::firststep& w = *bench.window;
   const auto N = static_cast<int>(state.range(0));
-  w.vimatimi.UserScroll(static_cast<int>(state.range(1)));
-  w.arxikives.UserScroll(2);
-  w.epitaxyno.UserScroll(-1);
-  w.Option2.UserClick();
-  w.Command1.UserClick();
-  for (int step = 1; step < N; ++step) w.VIMA.UserClick();
+  Run(w, N, static_cast<int>(state.range(1)));
   const double time = w.module.ElapsedTime;
   for ([[maybe_unused]] auto _ : state) {
     w.module.StepCount = N - 1;
@@ -70,6 +75,26 @@ void PointScene(benchmark::State& state) {
   }
 }
 BENCHMARK(PointScene)->DenseRange(-1, 15, 2)->Unit(benchmark::kMicrosecond);
+
+// The picture of a run of N steps drawn again at another density: alone on the sketch, or over
+// another picture, which keeps what each step has erased.
+void Redraw(benchmark::State& state) {
+  Bench bench(810);
+  app::firststep& w = *bench.window;
+  Run(w, 2, 300);
+  if (state.range(1) != 0) {
+    w.DYNAMEISDIAFORES.UserClick();
+    w.Command1.UserClick();
+  }
+  for (int step = 2; step < state.range(0); ++step) w.VIMA.UserClick();
+  double density = 1.0;
+  for ([[maybe_unused]] auto _ : state) {
+    density = 3.0 - density;
+    bench.canvas.Resize({1620, 1620}, density);
+    w.eikona.Redraw();
+  }
+}
+BENCHMARK(Redraw)->ArgsProduct({{100, 8000, 12500}, {0, 1}})->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

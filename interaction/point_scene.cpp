@@ -53,10 +53,14 @@ track::Vector Friction(const track::Motion& motion) {
   return -motion.point.tangent * kFriction;
 }
 
+bool IsOnTrack(const track::Parameters& track, const track::Vector& place) {
+  return std::abs(track::Height(track, place.x) - place.y) < kReach;
+}
+
 std::optional<track::Motion> MotionAtPicked(const track::Parameters& track, double x) {
   track::TrackPoint point = track::PointAt(track, x);
   if (std::abs(point.radius) > kStraight) point.curvature = 0.0;
-  return track::MotionAt(track, point);
+  return track::Course(track).MotionAt(point);
 }
 
 void DrawPointVectors(window::Controls& firststep, float x, float y) {
@@ -66,7 +70,7 @@ void DrawPointVectors(window::Controls& firststep, float x, float y) {
   const track::Parameters track = window::TrackParameters(firststep);
   scenes::DrawTrack(eikona, track);
   const track::Vector picked{x, y};
-  module.PointOnTrack = std::abs(track::Height(track, picked.x) - picked.y) < kReach;
+  module.PointOnTrack = IsOnTrack(track, picked);
   if (!module.PointOnTrack) {
     scenes::DrawCurvatureScene(firststep);
     return;

@@ -9,11 +9,11 @@ namespace scenes {
 void DrawCurvatureScene(window::Controls& firststep) {
   sketch::Sketch& eikona = firststep.eikona;
   const track::Parameters track = window::TrackParameters(firststep);
-  // Told once, when it is settled: whoever hears it cannot look which text came last.
+  const track::Course course(track);
   const char* shown = "The track; the body stops before the first crest";
   DrawTrack(eikona, track);
   for (const double phase : {track::Pi / 2.0, 3.0 * track::Pi / 2.0}) {
-    const auto motion = track::MotionAt(track, phase / track.frequency);
+    const auto motion = course.MotionAt(phase / track.frequency);
     if (!motion) {
       eikona.Description = shown;
       return;

@@ -24,8 +24,9 @@ void DrawStation(sketch::Sketch& eikona, const track::Motion& motion) {
 void DrawFactorsScene(window::Controls& firststep) {
   sketch::Sketch& eikona = firststep.eikona;
   const track::Parameters track = window::TrackParameters(firststep);
+  const track::Course course(track);
   for (int sample = 0; sample < kTrackSamples; ++sample) {
-    const auto motion = track::MotionAt(track, SampleAbscissa(sample));
+    const auto motion = course.MotionAt(SampleAbscissa(sample));
     if (!motion) {
       eikona.Description =
           "The track with the velocity, the centripetal and the total acceleration, as far as the "

@@ -38,7 +38,8 @@ void DrawVector(double x0, double y0, double vx, double vy, Sketch& surface, int
   const double a2 = t - std::numbers::pi / 6.0;
 
   // The angle t knows no forward and backward: on which side the barbs lie is seen from where the
-  // tip has come to stand. A vx too small to move it counts as none, as it did for t.
+  // tip has come to stand. A vx too small to move it counts as none, for the barbs as for the
+  // angle.
   const bool forward = !(tip.x - x0 < 0.0);
   Point b1 = forward ? fromTip(a1, -barb) : fromTip(a2, barb);
   Point b2 = forward ? fromTip(a2, -barb) : fromTip(a1, barb);

@@ -5,11 +5,10 @@
 #include <span>
 #include <string>
 
+#include "sketch/record.h"
 #include "toolkit/picture_box.h"
 
 namespace sketch {
-
-using toolkit::Colour;
 
 // Line styles.
 inline constexpr int kSolid = 0;
@@ -55,11 +54,15 @@ class Sketch : public toolkit::PictureBox {
   std::function<void(toolkit::Key key, short shift)> KeyDown;
   toolkit::Property<std::optional<Pointer>> KeyPointer;
 
+  // What a press at (x, y) will do; `pressed` while a button is held that was pressed here.
+  std::function<toolkit::Cursor(float x, float y, bool pressed)> CursorOver;
+
   void Scale(double x1, double y1, double x2, double y2);
   double ScaleWidth() const { return x2_ - x1_; }
   double ScaleHeight() const { return y2_ - y1_; }
 
   std::optional<toolkit::KeyPointer> PointerOnCanvas() const override;
+  toolkit::Cursor CursorAt(toolkit::Point place) const override;
 
   // Erases the whole drawing.
   void Cls();
@@ -80,6 +83,19 @@ class Sketch : public toolkit::PictureBox {
   // The text with its top-left corner at (CurrentX, CurrentY), in the foreground colour.
   void Print(const std::string& text);
 
+  // Draws by `draw`, now and whenever the picture is drawn again: for a picture that is repeated
+  // and grows, each repetition covering the last. What it draws from must not change before
+  // Settle().
+  void Repeat(const Record::Repetition& draw);
+  // Makes what was repeated an ordinary part of the picture.
+  void Settle();
+  // While Settle() runs: every place of a row of dots counts, also those that share a pixel.
+  bool Settling() const { return mode_ == Mode::Settling; }
+
+  bool CanRedraw() const override { return record_.Complete(); }
+  void Redraw() override;
+  const Record& Drawn() const { return record_; }
+
  protected:
   void OnMouseDown(const toolkit::MouseEvent& event) override { Raise(MouseDown, event); }
   void OnMouseUp(const toolkit::MouseEvent& event) override { Raise(MouseUp, event); }
@@ -89,11 +105,27 @@ class Sketch : public toolkit::PictureBox {
 
  private:
   using MouseHandler = std::function<void(short, short, float, float)>;
+  // What becomes of a drawing: it is shown and kept; shown, as a repetition's part; shown again;
+  // kept alone.
+  enum class Mode { Drawing, Repeating, Redrawing, Settling };
+  struct Place {
+    float x, y;
+  };
 
+  std::optional<Place> PlaceOf(toolkit::Point place) const;
   void Raise(const MouseHandler& handler, const toolkit::MouseEvent& event);
+  void Run(Mode mode, const std::function<void()>& draw);
+  void Draw(const Drawing& drawing);
+  void Show(const Drawing& drawing);
+  void ShowLine(const Drawing& line);
+  void ShowCircle(const Drawing& circle);
+  void ShowText(double x, double y, const std::string& text);
 
   double x1_ = 0.0, y1_ = 10.0, x2_ = 20.0, y2_ = -10.0;
   mutable Mapping mapping_;
+  Drawing scaleAtStart_ = {.kind = Drawing::Kind::Scale};  // of the record
+  Record record_;
+  Mode mode_ = Mode::Drawing;
 };
 
 }  // namespace sketch

@@ -39,6 +39,8 @@ void Trail::Update(const Sketch& sketch, std::span<const double> xs, std::span<c
     mapping_ = sketch.ToPixels();
     side_ = sketch.DotSide();
   }
+  xs_ = xs;
+  ys_ = ys;
   for (; mapped_ < xs.size(); ++mapped_) {
     const Point place = mapping_(xs[mapped_], ys[mapped_]);
     if (!Shows(place, mapping_.size)) continue;
@@ -52,6 +54,10 @@ void Trail::Update(const Sketch& sketch, std::span<const double> xs, std::span<c
 }
 
 void Trail::Draw(Sketch& sketch, std::size_t first, std::size_t count) const {
+  if (sketch.Settling()) {
+    for (std::size_t i = first; i < first + count; ++i) sketch.PSet(xs_[i], ys_[i]);
+    return;
+  }
   const std::size_t from = KeptBefore(first);
   const std::size_t to = KeptBefore(first + count);
   sketch.PSetPixels(std::span(places_).subspan(from, to - from));

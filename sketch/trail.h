@@ -15,7 +15,8 @@ class Trail {
  public:
   // The row's entries from `index` on are no longer what they were.
   void Change(std::size_t index);
-  // Takes over the row (xs[i], ys[i]), in user units, and the size and scale of the sketch.
+  // Takes over the row (xs[i], ys[i]), in user units, and the size and scale of the sketch. The
+  // numbers must outlive the trail.
   void Update(const Sketch& sketch, std::span<const double> xs, std::span<const double> ys);
   // Draws dots first to first + count - 1 of the row that was taken over, as PSet would draw each:
   // in the foreground colour at the current width.
@@ -29,6 +30,7 @@ class Trail {
   std::size_t mapped_ = 0;  // entries of the row that have been looked at
   std::vector<toolkit::Point> places_;
   std::vector<std::uint32_t> indices_;  // of the places in the row
+  std::span<const double> xs_, ys_;     // the row itself, which belongs to whoever draws it
 };
 
 }  // namespace sketch

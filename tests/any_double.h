@@ -8,11 +8,10 @@
 #include "track/carlson.h"
 #include "track/motion.h"
 
-// What holds of the numerics for any three doubles: each function returns, after a bounded number
-// of integrals, and where its arguments are in its domain the result is a number with the right
-// properties. Returns what does not hold, or an empty text.
+// What holds of the numerics for any three doubles: each function returns, the search after a
+// bounded number of steps, and where its arguments are in its domain the result is a number with
+// the right properties. Returns what does not hold, or an empty text.
 inline std::string FaultOfNumerics(double a, double b, double c) {
-  const auto before = track::EllipticEvaluations();
   const double rf = track::CarlsonRF(a, b, c), rd = track::CarlsonRD(a, b, c);
   const auto usual = [](double v) { return v > 1e-37 && v < 1e150; };
   if (usual(a) && usual(b) && usual(c)) {
@@ -28,8 +27,8 @@ inline std::string FaultOfNumerics(double a, double b, double c) {
     if (!(missed <= 1.0001e-4 + 1e-14 * std::abs(a))) return "the inverse misses";
     if (!(std::abs(track::ArcLength(a, b)) <= std::abs(a) * (1 + 1e-7))) return "too long an arc";
   }
-  track::MotionAt({a, b, c, a}, c);
+  track::Course({a, b, c, a}).MotionAt(c);
   track::AbscissaAtDistance({a, b, c, a}, a);
-  if (track::EllipticEvaluations() - before > 30000) return "too many integrals";
+  if (track::FindPhase(track::Arc(b), a, c).evaluations > 2100) return "too long a search";
   return {};
 }

@@ -10,22 +10,38 @@ struct Journey : Motion {
   Journey(int amplitude, int degrees, int speed, int acceleration, int steps)
       : Motion(amplitude, degrees, speed, acceleration) {
     window->Option2.UserClick();
-    Scroll(steps), Start();
+    Scroll(steps);
+    Start();
   }
   double time = 0;
   int n = 0, gap = 0;  // steps so far, and from mark to mark
   Marks last;          // arrows
   const window::PathRecords& path = window->module.path;
 
-  void Scroll(int steps) { bars[4]->UserScroll(steps), gap = 3 * steps; }
-  void Start() { window->Command1.UserClick(), n = 0, time = 0; }
+  void Scroll(int steps) {
+    bars[4]->UserScroll(steps);
+    gap = 3 * steps;
+  }
+  void Start() {
+    window->Command1.UserClick();
+    n = 0;
+    time = 0;
+  }
   bool Tick() {
-    Forget(), desktop.Tick(), Check();
+    Forget();
+    desktop.Tick();
+    Check();
     return window->Timer1.Enabled && !::testing::Test::HasFailure();
   }
-  void Step() { Forget(), window->VIMA.UserClick(), Check(), ExpectStill(); }
+  void Step() {
+    Forget();
+    window->VIMA.UserClick();
+    Check();
+    ExpectStill();
+  }
   void ExpectStill() {
-    Forget(), desktop.Tick();
+    Forget();
+    desktop.Tick();
     EXPECT_TRUE(!window->Timer1.Enabled && Operations().empty() && window->module.StepCount == n);
   }
 
@@ -45,7 +61,8 @@ struct Journey : Motion {
       arrow.pen = {toolkit::kWhite, 3};
       Expect(arrow);
     }
-    Arrow(v, 0, kRed), Arrow(at / 2, an / 2, {0, 25, 155});
+    Arrow(v, 0, kRed);
+    Arrow(at / 2, an / 2, {0, 25, 155});
     last.assign(expected.begin() + std::ssize(last), expected.end());
     Text(2, 8, "β = " + window::Format(w, 2));
     for (int i = 0; i <= n; i += gap) ExpectLabel(i);
@@ -72,10 +89,12 @@ struct Journey : Motion {
     Mark before{};
     const auto expect = [&](int i, const toolkit::Pen& pen) {
       const Mark want{Kind::Dot, {path.PathX[i], path.PathY[i]}, 0, 0, pen};
-      const bool drawn = next != got.end() && Miss(*next, want) < 1e-8;
-      const bool needed = std::abs(path.PathX[i] - 10) < 10.1 && Miss(before, want) * Unit() > 1.42;
+      const bool drawn = next != got.end() && Mark::Miss(*next, want) < 1e-8;
+      const bool needed =
+          std::abs(path.PathX[i] - 10) < 10.1 && Mark::Miss(before, want) * Unit() > 1.42;
       EXPECT_TRUE(drawn || !needed) << i;
-      next += drawn, before = want;
+      next += drawn;
+      before = want;
     };
     expect(n, {kInk});
     for (int i = 0; i <= n; ++i) {
@@ -103,34 +122,31 @@ TEST(Evolution, EveryStepObeysTheLawsOfMotion) {
     EXPECT_EQ(run.window->Timer1.Enabled, acceleration < 0);
     EXPECT_TRUE(acceleration < 0 ? run.x < -30 : run.x > 30 || run.n == 12500) << run.x;
     if (run.n < 12500) continue;
-    run.window->VIMA.UserClick(), run.window->KSEKINA.UserClick();
+    run.window->VIMA.UserClick();
+    run.window->KSEKINA.UserClick();
     run.ExpectStill();
   }
 }
 
-// "STOP", "STEP" and "CONTINUE" in the run and after its end; a new pace moves the marks; a new run
-// erases the old arrows and has labels of its own; "STEP" without "start" goes on in time.
-TEST(Evolution, StopsContinuesAndStartsOver) {
+// A new pace moves the marks; a new run erases the old arrows and has labels of its own; "STEP"
+// stops the run, and without "start" it goes on in time.
+TEST(Evolution, ChangesItsPaceAndStartsOver) {
   Journey run(20, 15, 2, 3, 20);
-  auto& w = *run.window;
   while (run.n < 70) ASSERT_TRUE(run.Tick());
-  w.STAMATHMA.UserClick();
-  run.ExpectStill();
-  w.KSEKINA.UserClick();
-  EXPECT_TRUE(run.Tick());
   run.Step();
-  run.Scroll(10), run.Step();
-  w.KSEKINA.UserClick();
+  run.Scroll(10);
+  run.Step();
+  run.window->KSEKINA.UserClick();
   while (run.Tick()) EXPECT_LE(run.x, 30);
   run.ExpectStill();
-  w.KSEKINA.UserClick();
-  EXPECT_FALSE(run.Tick());
 
-  w.epitaxyno.UserScroll(4), run.at = 0.4;
+  run.window->epitaxyno.UserScroll(4);
+  run.at = 0.4;
   run.Start();
   while (run.n < 65) ASSERT_TRUE(run.Tick());
-  w.Option2.UserClick(), run.n = 0;
-  run.ExpectStill(), run.Step();
+  run.window->Option2.UserClick();
+  run.n = 0;
+  run.Step();
 }
 
 // From rest the distances in equal times are as the odd numbers; a = 0.3, marks 3 time units apart.

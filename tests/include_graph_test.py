@@ -9,10 +9,12 @@ from pathlib import Path
 ROOT = Path(sys.argv[1])  # the top of the tree
 LOWER = {"toolkit", "track", "sketch", "window"}
 ARROWS = {
-    "track": set(), "toolkit": set(), "toolkit/headless": {"toolkit"}, "toolkit/qt": {"toolkit"},
+    "track": set(), "toolkit": set(), "toolkit/raster": {"toolkit"},
+    "toolkit/headless": {"toolkit", "toolkit/raster"}, "toolkit/qt": {"toolkit", "toolkit/raster"},
     "sketch": {"toolkit"}, "window": {"sketch", "toolkit", "track"}, "scenes": LOWER,
     "evolution": LOWER | {"scenes"}, "interaction": LOWER | {"scenes"},
-    "app": LOWER | {"scenes", "evolution", "interaction"}, "app/qt": {"app", "toolkit/qt"}}
+    "app": LOWER | {"scenes", "evolution", "interaction"}, "app/qt": {"app", "toolkit/qt"},
+    "app/web": {"app", "toolkit/web"}, "toolkit/web": {"toolkit", "toolkit/raster"}}
 MAY_NAME_QT = re.compile(r"(toolkit/qt|app/qt|bench)/|tests/qt_")
 QT = re.compile(r"\b(Qt\w*|QT_\w+|Q_[A-Z]+|Q[A-Z][a-z]\w*)\b|\btoolkit/qt/")
 

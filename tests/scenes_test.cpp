@@ -13,7 +13,9 @@ struct Scene : Motion {
       if (!ArriveAt(i / 20.0)) return;
       Dot();
       if (i % 28 != 0) continue;
-      Arrow(v, 0, kRed), Arrow(0, A * an / 4, kBlue, 2), Arrow(A * at / 4, A * an / 4, {0, 0, 0});
+      Arrow(v, 0, kRed);
+      Arrow(0, A * an / 4, kBlue, 2);
+      Arrow(A * at / 4, A * an / 4, {0, 0, 0});
     }
     page = "The centripetal acceleration has";
     Legend(kRed, 1, {9, -9.1}, {10, -9.1}, "VELOCITY");

@@ -38,7 +38,7 @@ struct Extent {
 };
 
 // The drawing surface of a picture box. It keeps its picture. Every number that reaches it is
-// finite; what lies outside its extent is its own affair.
+// finite; what lies outside its extent is cut off.
 //
 // Lines and circles are smooth; one in the background colour erases, that is, leaves no trace of
 // a thinner one under it. A dot is a crisp square. Drawing a dot or a text again where it already

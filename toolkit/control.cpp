@@ -1,6 +1,25 @@
 #include "toolkit/control.h"
 
+#include <utility>
+
 namespace toolkit {
+
+void ControlSite::ShowChanges() {
+  // A mirror may change the state in turn, as a widget does that has lost the focus.
+  while (!changed_.empty()) {
+    for (Component* component : std::exchange(changed_, {})) {
+      component->changed_ = false;
+      if (component->mirror_ != nullptr) component->mirror_->Refresh();
+    }
+  }
+}
+
+void Component::Changed() {
+  if (mirror_ == nullptr || changed_) return;
+  changed_ = true;
+  site_.changed_.push_back(this);
+  if (!site_.events.Running()) site_.ShowChanges();
+}
 
 Control::Control(ControlSite& site, const Design& design)
     : Component(site, design.name),

@@ -10,12 +10,14 @@
 namespace toolkit {
 
 class ControlVisitor;
+class Component;
 class Control;
 
 // Lengths on the window are twips: 1/1440 inch, 15 to a pixel at 96 dots per inch.
 inline constexpr float kTwipsPerPixel = 15.0F;
 
-// A backend's image of one component. Refresh() is called after each change of the state.
+// A backend's image of one component. Refresh() takes over the state; it is called once for all
+// that an event has changed, after the event's handler has ended.
 class Mirror {
  public:
   virtual ~Mirror() = default;
@@ -23,9 +25,19 @@ class Mirror {
 };
 
 // Where controls live: the queue that their events go through, and all of them in tab order.
-struct ControlSite {
-  EventQueue events;
+class ControlSite {
+ public:
+  EventQueue events{[this] { ShowChanges(); }};
   std::vector<Control*> controls;
+
+  // Brings to the screen what has changed so far. After each event this happens by itself; a
+  // handler calls it when it needs the screen before it ends: to draw on a canvas that it has made
+  // larger, or to wait for the user.
+  void ShowChanges();
+
+ private:
+  friend class Component;
+  std::vector<Component*> changed_;
 };
 
 // Anything with a name of its own that a backend can mirror: controls, menu items, the timer.
@@ -36,10 +48,10 @@ class Component : public Changeable {
   Component& operator=(const Component&) = delete;
 
   const std::string Name;
+  std::string Hint;  // one line that says what this is for, where its caption does not; or empty
 
-  void Changed() override {
-    if (mirror_ != nullptr) mirror_->Refresh();
-  }
+  // Shown after the event that runs, or at once when none does.
+  void Changed() override;
   // The mirror belongs to the backend; null takes it off again.
   void Attach(Mirror* mirror) { mirror_ = mirror; }
 
@@ -47,8 +59,10 @@ class Component : public Changeable {
   EventQueue& Events() { return site_.events; }
 
  private:
+  friend class ControlSite;
   ControlSite& site_;
   Mirror* mirror_ = nullptr;
+  bool changed_ = false;
 };
 
 // A control's design-time place in its window, in twips from the top left of the client area.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "toolkit/control.h"
+#include "toolkit/keys.h"
 
 namespace toolkit {
 
@@ -46,6 +47,11 @@ class CommandButton : public Control {
   Property<std::string> Caption;
   std::function<void()> Click;
 
+  // A key while the button has the focus. False for one that does not click it.
+  bool UserKey(const KeyEvent& key) {
+    if (Clicks(key)) UserClick();
+    return Clicks(key);
+  }
   // The user has pressed the button.
   void UserClick() {
     Events().Deliver([this] {

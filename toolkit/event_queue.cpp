@@ -13,6 +13,7 @@ void EventQueue::Deliver(std::function<void()> handler) {
     const std::function<void()> next = std::move(waiting_.front());
     waiting_.pop_front();
     next();
+    if (settled_) settled_();
   }
   running_ = false;
 }

@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <utility>
 
 namespace toolkit {
 
@@ -11,6 +12,9 @@ namespace toolkit {
 // arrives meanwhile (a tick, a key, a click) waits here until that handler has ended.
 class EventQueue {
  public:
+  // `settled` is called after each handler, before the next one starts.
+  explicit EventQueue(std::function<void()> settled = nullptr) : settled_(std::move(settled)) {}
+
   // Runs `handler` now, or in its turn when a handler is running. After End() it does nothing.
   void Deliver(std::function<void()> handler);
 
@@ -18,7 +22,10 @@ class EventQueue {
   // more.
   void End();
 
+  bool Running() const { return running_; }
+
  private:
+  std::function<void()> settled_;
   std::deque<std::function<void()>> waiting_;
   bool running_ = false;
   bool ended_ = false;

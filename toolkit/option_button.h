@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "toolkit/controls.h"
+#include "toolkit/keys.h"
 
 namespace toolkit {
 
@@ -12,6 +13,11 @@ namespace toolkit {
 class OptionGroup {
  public:
   std::vector<OptionButton*> members;
+
+  // A key while one of the buttons has the focus: the arrow keys go round among those that show and
+  // click the one that they come to; Enter and Space click. The button that has the focus from then
+  // on; null for a key that does nothing here.
+  OptionButton* UserKey(OptionButton& focused, const KeyEvent& key);
 };
 
 class OptionButton : public Control {
@@ -42,6 +48,8 @@ class OptionButton : public Control {
   // The user has clicked. A click on the selected button runs its handler again: after a command
   // that cleared the sketch it is the only way back to the button's picture.
   void UserClick();
+  // A key while the button has the focus (see OptionGroup::UserKey).
+  OptionButton* UserKey(const KeyEvent& key) { return group_.UserKey(*this, key); }
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
  private:

@@ -1,6 +1,7 @@
 #include "toolkit/scroll_bar.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace toolkit {
 
@@ -12,6 +13,30 @@ ScrollBar::ValueProperty& ScrollBar::ValueProperty::operator=(int value) {
   if (changed || inside != value) bar_.Changed();
   if (changed && bar_.Change) bar_.Change();
   return *this;
+}
+
+bool ScrollBar::UserKey(KeyCode key) {
+  if (const int direction = StepOf(key); direction != 0) {
+    UserStep(direction);
+  } else if (key == KeyCode::PageUp || key == KeyCode::PageDown) {
+    UserPage(key == KeyCode::PageUp ? -1 : 1);
+  } else if (key == KeyCode::Home || key == KeyCode::End) {
+    UserScroll(key == KeyCode::Home ? Min : Max);
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void ScrollBar::UserWheel(int x, int y) {
+  // No hand turns further at once; a driver may say anything.
+  constexpr int kFarthest = 1000 * kWheelNotch;
+  x = std::clamp(x, -kFarthest, kFarthest);
+  y = std::clamp(y, -kFarthest, kFarthest);
+  wheel_ += std::abs(x) > std::abs(y) ? x : y;
+  const int notches = wheel_ / kWheelNotch;
+  wheel_ -= notches * kWheelNotch;
+  if (notches != 0) UserMove(-notches * SmallChange);
 }
 
 }  // namespace toolkit

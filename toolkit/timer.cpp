@@ -10,11 +10,6 @@ Clock::duration TickPeriod(int intervalMilliseconds) {
   return std::max(asked, frame);
 }
 
-Clock::time_point NextTick(Clock::time_point start, Clock::time_point now, Clock::duration period) {
-  if (now < start) return start;
-  return start + ((now - start) / period + 1) * period;
-}
-
 void Timer::Due() {
   if (pending_ || !Enabled) return;
   pending_ = true;

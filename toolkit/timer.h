@@ -18,10 +18,6 @@ using Clock = std::chrono::steady_clock;
 // The time between two ticks of a timer with this interval.
 Clock::duration TickPeriod(int intervalMilliseconds);
 
-// When the tick after `now` is due: on the even grid that began with `start`. Places of the grid
-// that have gone by are dropped, so a late program never sees its ticks in a bunch.
-Clock::time_point NextTick(Clock::time_point start, Clock::time_point now, Clock::duration period);
-
 class Timer : public Component {
  public:
   Timer(ControlSite& site, std::string name, int interval, bool enabled)

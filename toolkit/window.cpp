@@ -4,10 +4,11 @@
 
 namespace toolkit {
 
-Window::Window(Desktop& machine, std::string name, std::string caption)
+Window::Window(Desktop& machine, std::string name, std::string caption, const Room& room)
     : Component(static_cast<ControlSite&>(*this), std::move(name)),
       desktop(machine),
       Caption(std::move(caption)),
+      Surroundings(room),
       Left(*this, 0.0F),
       Top(*this, 0.0F),
       Width(*this, 4680.0F),

@@ -8,8 +8,6 @@
 namespace track {
 namespace {
 
-std::uint64_t evaluations = 0;
-
 constexpr double kFirstStep = Pi / 20.0;
 constexpr double kAcceptanceBand = 1e-4;
 constexpr double kStepFloor = 1e-11;
@@ -23,49 +21,43 @@ constexpr double kLastDigits = 1e-14;
 
 constexpr double kNotFound = std::numeric_limits<double>::quiet_NaN();
 
-// E(Pi/2, k) of the modulus that was asked for last. A picture asks for the same one four hundred
-// times, a search for a phase sixty times.
-double CompleteE(double k) {
-  static double known = kNotFound;
-  static double value = 0.0;
-  if (k != known) {
-    value = EllipticE(Pi / 2.0, k);
-    known = k;
+// E(u, k), with `quarter` = E(Pi/2, k) for phases beyond Pi/2.
+double Continued(double u, double k, double quarter) {
+  const double n = std::floor(u / Pi);
+  const double m = std::floor(2.0 * u / Pi);
+  if (std::fmod(m, 2.0) == 1.0) {
+    // The second half of a half period: measured back from its end.
+    return (m + 1.0) * quarter - EllipticE((n + 1.0) * Pi - u, k);
   }
-  return value;
+  return EllipticE(u - n * Pi, k) + m * quarter;
 }
 
 // One search from the guess that Q places. kNotFound when it has not ended.
-double Search(double S, double k, double Q) {
+FoundPhase Search(const Arc& arc, double S, double Q) {
   double u = std::floor(S / Q) * (Pi / 2.0) + Pi / 4.0;
   double h = kFirstStep;
-  double F = ArcLength(u, k);
+  double F = arc.Length(u);
   int d = S > F ? 1 : -1;
-  if (!(std::abs(S - F) > kAcceptanceBand)) return u;
-  for (int step = 0; step < kMaxSteps; ++step) {
+  if (!(std::abs(S - F) > kAcceptanceBand)) return {u, 1};
+  for (int step = 1; step <= kMaxSteps; ++step) {
     const double next = S > F ? u + h : u - h;
     // u has no digit left below the step: this is the target as nearly as doubles tell, unless the
     // guess was placed wrongly and lies far off.
-    if (next == u) return std::abs(S - F) <= kLastDigits * std::abs(S) ? u : kNotFound;
+    if (next == u) return {std::abs(S - F) <= kLastDigits * std::abs(S) ? u : kNotFound, step};
     u = next;
-    F = ArcLength(u, k);
+    F = arc.Length(u);
     if ((d > 0 && S > F) || (d < 0 && S < F)) continue;
-    if (F == S || std::isnan(F)) return u;
+    if (F == S || std::isnan(F)) return {u, step + 1};
     d = -d;
     h /= 2.0;
-    if (h < kStepFloor) return u;
+    if (h < kStepFloor) return {u, step + 1};
   }
-  return kNotFound;
+  return {kNotFound, kMaxSteps + 1};
 }
 
 }  // namespace
 
-std::uint64_t EllipticEvaluations() {
-  return evaluations;
-}
-
 double EllipticE(double phi, double k) {
-  ++evaluations;
   const double s = std::sin(phi);
   const double cc = std::cos(phi) * std::cos(phi);
   const double sk = s * k;
@@ -78,25 +70,32 @@ double ArcLength(double u, double k) {
   if (!std::isfinite(u)) return u;
   if (u < -Pi / 2.0) return -ArcLength(-u, k);
   if (u <= Pi / 2.0) return EllipticE(u, k);
-  const double n = std::floor(u / Pi);
-  const double m = std::floor(2.0 * u / Pi);
-  const double Ek = CompleteE(k);
-  if (std::fmod(m, 2.0) == 1.0) {
-    // The second half of a half period: measured back from its end.
-    return (m + 1.0) * Ek - EllipticE((n + 1.0) * Pi - u, k);
-  }
-  return EllipticE(u - n * Pi, k) + m * Ek;
+  return Continued(u, k, EllipticE(Pi / 2.0, k));
+}
+
+Arc::Arc(double k) : k_(k), quarter_(EllipticE(Pi / 2.0, k)) {
+}
+
+double Arc::Length(double u) const {
+  if (std::abs(u) <= Pi / 2.0 || !std::isfinite(u)) return ArcLength(u, k_);
+  const double length = Continued(std::abs(u), k_, quarter_);
+  return u < 0.0 ? -length : length;
+}
+
+FoundPhase FindPhase(const Arc& arc, double S, double Q) {
+  if (!std::isfinite(S)) return {S, 0};
+  const FoundPhase found = std::isfinite(S / Q) ? Search(arc, S, Q) : FoundPhase{kNotFound, 0};
+  if (!std::isnan(found.u)) return found;
+  // Q was no quarter arc. The true one places the guess well; where even that does not end (a
+  // modulus outside its domain), the quarter arcs alone give the phase.
+  const double all = S / arc.Quarter();
+  const FoundPhase second = std::isfinite(all) ? Search(arc, S, arc.Quarter()) : found;
+  const double u = std::isnan(second.u) ? all * (Pi / 2.0) : second.u;
+  return {u, found.evaluations + second.evaluations};
 }
 
 double PhaseAtArcLength(double S, double k, double Q) {
-  if (!std::isfinite(S)) return S;
-  const double found = std::isfinite(S / Q) ? Search(S, k, Q) : kNotFound;
-  if (!std::isnan(found)) return found;
-  // Q was no quarter arc. The true one places the guess well; where even that does not end (a
-  // modulus outside its domain), the quarter arcs alone give the phase.
-  const double quarter = ArcLength(Pi / 2.0, k);
-  const double second = std::isfinite(S / quarter) ? Search(S, k, quarter) : kNotFound;
-  return std::isnan(second) ? S / quarter * (Pi / 2.0) : second;
+  return FindPhase(Arc(k), S, Q).u;
 }
 
 }  // namespace track

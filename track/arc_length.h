@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <numbers>
 
 namespace track {
@@ -23,9 +22,20 @@ inline constexpr double Pi = std::numbers::pi;
 double EllipticE(double phi, double k);
 
 // E(u, k) for every phase: odd, increasing, growing by 2*E(Pi/2, k) in each half period.
-// Infinite u gives itself, NaN gives NaN. E(Pi/2, k) of the last modulus is remembered: for use on
-// one thread.
+// Infinite u gives itself, NaN gives NaN.
 double ArcLength(double u, double k);
+
+// The same for many phases of one modulus, whose complete integral is worked out once.
+class Arc {
+ public:
+  explicit Arc(double k);
+
+  double Length(double u) const;               // E(u, k)
+  double Quarter() const { return quarter_; }  // E(Pi/2, k)
+
+ private:
+  double k_, quarter_;
+};
 
 // The phase u with ArcLength(u, k) = S, where Q = ArcLength(Pi/2, k) places the first guess.
 // A guess within 1e-4 of the target is returned unrefined; otherwise u is good to about 1e-11.
@@ -34,7 +44,11 @@ double ArcLength(double u, double k);
 // that is not the quarter arc costs a longer search.
 double PhaseAtArcLength(double S, double k, double Q);
 
-// How often EllipticE has been evaluated since the program began: the measure of a handler's work.
-std::uint64_t EllipticEvaluations();
+// The same for an arc that is known, and how many lengths the search has evaluated.
+struct FoundPhase {
+  double u;
+  int evaluations;
+};
+FoundPhase FindPhase(const Arc& arc, double S, double Q);
 
 }  // namespace track

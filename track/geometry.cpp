@@ -2,8 +2,6 @@
 
 #include <cmath>
 
-#include "track/arc_length.h"
-
 namespace track {
 namespace {
 
@@ -50,14 +48,15 @@ double CentripetalAcceleration(double speed, double curvature) {
 
 double AbscissaAtDistance(const Parameters& track, double distance) {
   const Ellipse ellipse(track.amplitude * track.frequency);
-  const double quarter = ArcLength(Pi / 2.0, ellipse.modulus);
+  const Arc arc(ellipse.modulus);
   const double target = distance * track.frequency / ellipse.stretch;
-  return PhaseAtArcLength(target, ellipse.modulus, quarter) / track.frequency;
+  return FindPhase(arc, target, arc.Quarter()).u / track.frequency;
 }
 
-double SceneArcLength(const Parameters& track, double x) {
-  const Ellipse ellipse(track.amplitude);
-  return ellipse.stretch / track.frequency * ArcLength(track.frequency * x, ellipse.modulus);
+SceneDistance::SceneDistance(const Parameters& track)
+    : arc_(Ellipse(track.amplitude).modulus),
+      scale_(Ellipse(track.amplitude).stretch / track.frequency),
+      frequency_(track.frequency) {
 }
 
 std::optional<double> SpeedAfter(const Parameters& track, double distance) {

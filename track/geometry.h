@@ -2,6 +2,8 @@
 
 #include <optional>
 
+#include "track/arc_length.h"
+
 namespace track {
 
 // The model that every picture works on: a body on the track y = A*sin(w*x). Lengths are sketch
@@ -57,7 +59,18 @@ double AbscissaAtDistance(const Parameters& track, double distance);
 
 // The distance as the pictures without time count it: K*E(w*x, k) with k = A/sqrt(1 + A^2) and
 // K = sqrt(1 + A^2)/w. It equals the exact one for w = 1 and is the longer for smaller frequencies.
-double SceneArcLength(const Parameters& track, double x);
+// For many places of one track, whose complete integral is worked out once.
+class SceneDistance {
+ public:
+  explicit SceneDistance(const Parameters& track);
+
+  // From the origin to x, in sketch units.
+  double To(double x) const { return scale_ * arc_.Length(frequency_ * x); }
+
+ private:
+  Arc arc_;
+  double scale_, frequency_;
+};
 
 // The speed after `distance` under the tangential acceleration, v = sqrt(v0^2 + 2*at*s), or nothing
 // where the body never arrives (v0^2 + 2*at*s < 0) or the distance is no number.

@@ -17,10 +17,19 @@ struct Motion {
   Vector tangentialArrow;   // so that they grow with the amplitude
 };
 
-// The motion at a point, or nothing where the body never arrives.
-std::optional<Motion> MotionAt(const Parameters& track, const TrackPoint& point);
+// The motion along one track.
+class Course {
+ public:
+  explicit Course(const Parameters& track) : track_(track), distance_(track) {}
 
-// The motion at the track's point over `x`.
-std::optional<Motion> MotionAt(const Parameters& track, double x);
+  // At a point of the track, or nothing where the body never arrives.
+  std::optional<Motion> MotionAt(const TrackPoint& point) const;
+  // At the track's point over `x`.
+  std::optional<Motion> MotionAt(double x) const { return MotionAt(PointAt(track_, x)); }
+
+ private:
+  Parameters track_;
+  SceneDistance distance_;
+};
 
 }  // namespace track

@@ -39,17 +39,17 @@ struct Controls : toolkit::Window {
   ScrollBar platosvalue{*this,
                         {"platosvalue", "Amplitude", 3000, 4800, 255, 735},
                         Way::Vertical,
-                        {.min = 1, .max = 35, .value = 20, .largeChange = 5}};
+                        {.min = 1, .max = 35, .value = 20, .largeChange = 5, .unit = 0.1}};
   Label Label1{*this, {"Label1", "Amplitude value", 3000, 5520, 495, 735}, "Label1"};
   ScrollBar syxnotikamp{*this,
                         {"syxnotikamp", "Frequency", 3000, 4080, 975, 375},
                         Way::Horizontal,
-                        {.min = 1, .max = 60, .value = 15, .largeChange = 2}};
+                        {.min = 1, .max = 60, .value = 15, .largeChange = 2, .unit = 0.1}};
   Label Label2{*this, {"Label2", "Frequency value", 3960, 4200, 1215, 255}, "Label2"};
   ScrollBar epitaxyno{*this,
                       {"epitaxyno", "Tangential acceleration", 3000, 4440, 975, 375},
                       Way::Horizontal,
-                      {.min = -35, .max = 35, .value = 20, .largeChange = 1}};
+                      {.min = -35, .max = 35, .value = 20, .largeChange = 1, .unit = 0.1}};
   Label Label3{*this, {"Label3", "Tangential acceleration value", 3960, 4560, 1575, 375}, "Label3"};
   ScrollBar arxikives{*this,
                       {"arxikives", "Initial speed", 3720, 4800, 255, 735},

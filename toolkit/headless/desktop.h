@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "toolkit/headless/recording_canvas.h"
+#include "toolkit/headless/stand_in_letters.h"
+#include "toolkit/raster/canvas.h"
 #include "toolkit/window.h"
 
 namespace toolkit::headless {
@@ -21,8 +23,11 @@ class HeadlessDesktop : public Desktop {
   std::function<void()> whileMessageIsOpen;  // what happens before the user presses OK
   bool ended = false;
 
-  // The picture of the window's sketch.
-  RecordingCanvas& Picture() { return *pictures_.front(); }
+  // The record of what is drawn on the window's sketch.
+  RecordingCanvas& Picture() { return *recording_; }
+  // Lets the sketch be drawn in pixels from now on instead, `density` of them to one at 96 dots per
+  // inch, with stand-in letters. Called again, it changes the density.
+  raster::RasterCanvas& Paint(double density);
   // Lets every timer of the window tick once, if it is enabled.
   void Tick();
 
@@ -36,9 +41,17 @@ class HeadlessDesktop : public Desktop {
   void End() override { ended = true; }
 
  private:
+  class PaintedMirror;
+
+  static constexpr raster::Packing kPacking{16, 8, 0};
+
   Extent screen_;
   Window* window_ = nullptr;
-  std::vector<std::unique_ptr<RecordingCanvas>> pictures_;
+  PictureBox* box_ = nullptr;
+  std::unique_ptr<RecordingCanvas> recording_;
+  StandInLetters letters_{kPacking};
+  raster::RasterCanvas painting_{kPacking, letters_};
+  std::unique_ptr<Mirror> mirror_;
 };
 
 }  // namespace toolkit::headless

@@ -1,6 +1,11 @@
 #pragma once
 
+#include <QAccessible>
 #include <QWidget>
+
+namespace toolkit {
+class ScrollBar;
+}
 
 namespace toolkit::qt {
 
@@ -13,7 +18,14 @@ class AnnouncementWidget : public QWidget {
   void Say(const QString& text);
 };
 
-// Gives the widgets of this backend that Qt does not know their roles on the accessibility bus.
-void InstallAccessibleRoles();
+// What a widget or action that Qt does not know well is on the accessibility bus. A radio button
+// must be a QAbstractButton, a menu item a QAction.
+void SetAccessibleRole(QObject& object, QAccessible::Role role);
+
+// Lets the widget tell the bar's value in the units of what it stands for.
+void SetAccessibleValue(QWidget& widget, ScrollBar& bar);
+
+// Makes Qt ask for what the functions above have said.
+void InstallAccessibleInterfaces();
 
 }  // namespace toolkit::qt

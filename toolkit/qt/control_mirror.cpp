@@ -14,6 +14,8 @@ ControlMirror::ControlMirror(Control& control, const TwipScale& twips,
     : control_(control), twips_(twips), widget_(std::move(widget)), show_(std::move(show)) {
   widget_->setObjectName(Text(control.Name));
   widget_->setAccessibleName(Text(control.AccessibleName));
+  widget_->setToolTip(Text(control.Hint));
+  widget_->setAccessibleDescription(Text(control.Hint));
   Refresh();
   control.Attach(this);
 }
@@ -24,9 +26,9 @@ ControlMirror::~ControlMirror() {
 
 void ControlMirror::Refresh() {
   const QSignalBlocker blocker(widget_.get());
-  widget_->setGeometry(
-      twips_.PixelsOf(control_.Left, control_.Top, control_.Width, control_.Height));
-  const QFont font = FontOf(control_.FontName, control_.FontSize, twips_.Zoom());
+  const PixelBox place = twips_.PixelsOf(control_);
+  widget_->setGeometry(place.left, place.top, place.width, place.height);
+  const QFont font = FontOf(control_.FontName, FontPixels(control_.FontSize, twips_.Zoom()));
   if (font != widget_->font()) widget_->setFont(font);
   show_();
   widget_->setVisible(control_.Visible);

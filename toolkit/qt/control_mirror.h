@@ -7,14 +7,16 @@
 #include <vector>
 
 #include "toolkit/controls.h"
-#include "toolkit/qt/twips.h"
+#include "toolkit/lengths.h"
+#include "toolkit/window.h"
 
 namespace toolkit::qt {
 
 // A control's widget. What the program sets is shown without being taken for the user's doing.
 class ControlMirror : public Mirror {
  public:
-  // `show` brings to the widget what only this kind of control has.
+  // `twips` is the window's own, which may change. `show` brings to the widget what only this kind
+  // of control has.
   ControlMirror(Control& control, const TwipScale& twips, std::unique_ptr<QWidget> widget,
                 std::function<void()> show);
   ~ControlMirror() override;
@@ -25,13 +27,14 @@ class ControlMirror : public Mirror {
 
  private:
   Control& control_;
-  TwipScale twips_;
+  const TwipScale& twips_;
   std::unique_ptr<QWidget> widget_;
   std::function<void()> show_;
 };
 
-// A mirror for each of the controls. Their widgets are children of `client`, in the same tab order.
-std::vector<std::unique_ptr<Mirror>> MirrorControls(const std::vector<Control*>& controls,
-                                                    const TwipScale& twips, QWidget& client);
+// A mirror for each of the window's controls. Their widgets are children of `client`, in the same
+// tab order.
+std::vector<std::unique_ptr<Mirror>> MirrorControls(Window& window, const TwipScale& twips,
+                                                    QWidget& client);
 
 }  // namespace toolkit::qt

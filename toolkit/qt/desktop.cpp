@@ -2,93 +2,64 @@
 
 #include <QApplication>
 #include <QMessageBox>
-#include <QPalette>
-#include <QProxyStyle>
 #include <QScreen>
 
-#include <algorithm>
-
 #include "toolkit/qt/accessibility.h"
+#include "toolkit/qt/screen.h"
+#include "toolkit/qt/style.h"
 #include "toolkit/qt/text.h"
 #include "toolkit/qt/window_mirror.h"
 
 namespace toolkit::qt {
-namespace {
 
-// The colours of the pictures are fixed, dark ink on white, so the window around them is light
-// whatever the desktop's theme.
-QPalette LightPalette() {
-  QPalette palette(QColor(239, 239, 239));
-  palette.setColor(QPalette::Highlight, QColor(38, 110, 190));
-  palette.setColor(QPalette::HighlightedText, Qt::white);
-  return palette;
-}
-
-// The style of the same look everywhere, with thumbs that leave the short scroll bars of the layout
-// some way to go.
-class Style : public QProxyStyle {
- public:
-  explicit Style(QObject* owner) : QProxyStyle("Fusion") { setParent(owner); }
-
-  int pixelMetric(PixelMetric metric, const QStyleOption* option,
-                  const QWidget* widget) const override {
-    constexpr int kShortestThumb = 12;
-    return metric == PM_ScrollBarSliderMin ? kShortestThumb
-                                           : QProxyStyle::pixelMetric(metric, option, widget);
-  }
-};
-
-// The whole screen, and the part of it that panels leave free.
-struct Screen {
-  QSize size{1024, 768}, free{size};
-
-  Screen() {
-    if (const QScreen* screen = QApplication::primaryScreen()) {
-      size = screen->geometry().size();
-      free = screen->availableSize();
-    }
-  }
-
-  // The layout gives three quarters of the screen's height to the sketch. On a low screen, as a
-  // small one that its user has set to large letters, what is above and under it must shrink.
-  double Zoom() const {
-    constexpr double kAroundSketch = 16.0 + 99.0;  // the margin, three rows of buttons
-    constexpr double kTitleAndMenu = 54.0;
-    constexpr double kLeast = 0.5;  // smaller letters can't be read
-    const double room = free.height() - kTitleAndMenu - 0.75 * size.height();
-    return std::clamp(room / kAroundSketch, kLeast, 1.0);
-  }
-};
-
-}  // namespace
-
-QtDesktop::QtDesktop(QApplication& application) : zoom_(Screen().Zoom()) {
-  QApplication::setStyle(new Style(&application));
-  QApplication::setPalette(LightPalette());
+QtDesktop::QtDesktop(QApplication& application) {
+  ApplyStyle(1.0);
   // The layout is the same in every language.
   QApplication::setLayoutDirection(Qt::LeftToRight);
   // A message box may close before the window is shown, which is not the end.
   QApplication::setQuitOnLastWindowClosed(false);
-  InstallAccessibleRoles();
+  InstallAccessibleInterfaces();
+  WatchScreens(application);
 }
 
 QtDesktop::~QtDesktop() = default;
+
+// A panel that appears or goes is no reason to change a picture that a class is looking at; another
+// size of the screen, or another screen, is. What the panels leave free of it is known a little
+// later.
+void QtDesktop::WatchScreens(QApplication& application) {
+  const auto cover = [this] {
+    if (mirror_ != nullptr) mirror_->Cover(FreePart());
+  };
+  const auto settle = [this, cover] {
+    if (mirror_ != nullptr && mirror_->Settling()) cover();
+  };
+  const auto watch = [this, cover, settle](QScreen* screen) {
+    QObject::connect(screen, &QScreen::geometryChanged, &watcher_, cover);
+    QObject::connect(screen, &QScreen::availableGeometryChanged, &watcher_, settle);
+  };
+  for (QScreen* screen : QApplication::screens()) watch(screen);
+  QObject::connect(&application, &QApplication::screenAdded, &watcher_, watch);
+  QObject::connect(&application, &QApplication::primaryScreenChanged, &watcher_, cover);
+}
 
 int QtDesktop::Run() {
   return ended_ ? 0 : QApplication::exec();
 }
 
 float QtDesktop::ScreenWidth() const {
-  return TwipScale(zoom_).TwipsOf(Screen().size.width());
+  return static_cast<float>(view_.screen.width) * kTwipsPerPixel;
 }
 
 float QtDesktop::ScreenHeight() const {
-  return TwipScale(zoom_).TwipsOf(Screen().size.height());
+  return static_cast<float>(view_.screen.height) * kTwipsPerPixel;
 }
 
 void QtDesktop::Create(Window& window) {
   QApplication::setApplicationDisplayName(Text(window.Caption));
-  mirror_ = std::make_unique<WindowMirror>(window, TwipScale(zoom_));
+  const QRect free = FreePart();
+  view_ = ViewOf(RoomIn(free), kTitleHeight, window.Surroundings);
+  mirror_ = std::make_unique<WindowMirror>(window, free, view_);
 }
 
 void QtDesktop::Destroy(Window&) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QObject>
+
 #include <memory>
 
 #include "toolkit/window.h"
@@ -10,7 +12,8 @@ namespace toolkit::qt {
 
 class WindowMirror;
 
-// The desktop as Qt's application sees it, showing one window. It must outlive that window.
+// The desktop as Qt's application sees it, showing one window, which covers the free part of the
+// primary screen. It must outlive that window, and the application must outlive it.
 class QtDesktop : public Desktop {
  public:
   // The application must exist, and be styled before any widget is made.
@@ -29,9 +32,12 @@ class QtDesktop : public Desktop {
   void End() override;
 
  private:
-  double zoom_;  // logical pixels to one of the program's
+  void WatchScreens(QApplication& application);
+
+  View view_{1.0, {1024.0, 768.0}};
   std::unique_ptr<WindowMirror> mirror_;
   bool ended_ = false;
+  QObject watcher_;  // ends the connections to the screens with the desktop
 };
 
 }  // namespace toolkit::qt

@@ -6,9 +6,12 @@
 
 namespace toolkit::qt {
 
-// Paints the inner edge of `box`, in logical pixels, as thick on every side: as many whole device
-// pixels as a logical one has, at least one. The box may lie between device pixels, as it does at a
-// fractional ratio; its corners are then rounded as Qt rounds a widget's own.
-void PaintFrame(QPainter& painter, const QRect& box, const QColor& colour);
+// How many device pixels a line has that is to be `pixels` of them thick: whole ones, at least one.
+int FrameSide(double pixels);
+
+// Paints the inner edge of `box`, in logical pixels, `width` of them thick on every side. The box
+// may lie between device pixels, as it does at a fractional ratio; its corners are then rounded as
+// Qt rounds a widget's own.
+void PaintFrame(QPainter& painter, const QRect& box, const QColor& colour, double width);
 
 }  // namespace toolkit::qt

@@ -4,6 +4,8 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "toolkit/mnemonic.h"
+#include "toolkit/qt/accessibility.h"
 #include "toolkit/qt/text.h"
 
 namespace toolkit::qt {
@@ -16,6 +18,8 @@ class MenuMirror : public Mirror {
     // No platform may take an item for its own "Quit" and move it elsewhere.
     action_.setMenuRole(QAction::NoRole);
     action_.setCheckable(item.Checkable);
+    action_.setToolTip(Text(item.Hint));
+    SetAccessibleRole(action_, QAccessible::MenuItem);
     // Only the user's choice is announced by this signal. Qt has turned the mark over by then; it
     // goes back to what the program says.
     QObject::connect(&action_, &QAction::triggered, &action_, [this] {
@@ -36,34 +40,26 @@ class MenuMirror : public Mirror {
   QAction& action_;
 };
 
-// The caption for Qt, with the mark of a shortcut key before its first letter that no item beside
-// it has taken.
-QString WithMnemonic(const std::string& caption, QString& taken) {
-  QString marked;
-  bool found = false;
-  for (const QChar letter : Text(caption)) {
-    if (!found && letter.isLetter() && !taken.contains(letter, Qt::CaseInsensitive)) {
-      found = true;
-      taken += letter;
-      marked += '&';
-    }
-    marked += letter == '&' ? QString("&&") : QString(letter);
-  }
-  return marked;
+// The caption for Qt, with an ampersand before its mnemonic.
+QString Marked(const std::string& caption, std::optional<std::size_t> mnemonic) {
+  if (!mnemonic) return Literal(caption);
+  return Literal(caption.substr(0, *mnemonic)) + '&' + Literal(caption.substr(*mnemonic));
 }
 
 // `Bar` is the menu bar or a drop-down.
 template <class Bar>
 void Fill(Bar& bar, const std::vector<MenuItem*>& items,
           std::vector<std::unique_ptr<Mirror>>& mirrors) {
-  QString taken;
-  for (MenuItem* item : items) {
-    const QString caption = WithMnemonic(item->Caption, taken);
+  const std::vector<std::optional<std::size_t>> mnemonics = Mnemonics(items);
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    MenuItem* item = items[i];
+    const QString caption = Marked(item->Caption, mnemonics[i]);
     if (item->items.empty()) {
       mirrors.push_back(std::make_unique<MenuMirror>(*item, *bar.addAction(caption)));
     } else {
       QMenu* menu = bar.addMenu(caption);
       menu->setAccessibleName(Text(item->Caption));
+      menu->setToolTipsVisible(true);
       mirrors.push_back(std::make_unique<MenuMirror>(*item, *menu->menuAction()));
       Fill(*menu, item->items, mirrors);
     }

@@ -1,16 +1,12 @@
-#include <QPushButton>
-#include <QTimer>
-
+#include <unordered_map>
 #include <utility>
 
-#include "toolkit/option_button.h"
 #include "toolkit/picture_box.h"
 #include "toolkit/qt/accessibility.h"
 #include "toolkit/qt/control_mirror.h"
 #include "toolkit/qt/sketch_widget.h"
 #include "toolkit/qt/text.h"
 #include "toolkit/qt/widgets.h"
-#include "toolkit/scroll_bar.h"
 
 namespace toolkit::qt {
 namespace {
@@ -22,17 +18,17 @@ class PictureMirror : public ControlMirror {
   PictureMirror(PictureBox& box, const TwipScale& twips, SketchWidget* shown,
                 AnnouncementWidget* voice)
       : ControlMirror(box, twips, std::unique_ptr<QWidget>(shown),
-                      [&box, shown] {
-                        shown->FitCanvas();
+                      [&box, &twips, shown] {
                         shown->canvas().SetFont(box.FontName, box.FontSize);
-                        shown->Describe(Text(box.Description));
+                        shown->FitCanvas(twips.Zoom());
+                        // Qt would report the same text as a new one.
+                        const QString seen = Text(box.Description);
+                        if (seen != shown->accessibleDescription()) {
+                          shown->setAccessibleDescription(seen);
+                        }
                         shown->update();  // the keyboard's pointer may have moved
                       }),
         box_(box) {
-    shown->pressed = [&box](const MouseEvent& event) { box.UserMouseDown(event); };
-    shown->released = [&box](const MouseEvent& event) { box.UserMouseUp(event); };
-    shown->keyed = [&box](Key key, int shift) { box.UserKey(key, shift); };
-    shown->pointer = [&box] { return box.PointerOnCanvas(); };
     box.AttachAnnouncer([voice](const std::string& text) { voice->Say(Text(text)); });
     box.AttachCanvas(&shown->canvas());
   }
@@ -46,15 +42,16 @@ class PictureMirror : public ControlMirror {
 };
 
 // Makes the widget that each kind of control needs and ties the user's events to the control. The
-// widget shows the control's state again after each of them: an event may have to wait for its
-// turn, and then the screen waits with it.
+// widget shows the control's state again after each of them: while an event waits for its turn, the
+// widget must not show what it has not done yet.
 class Builder : public ControlVisitor {
  public:
-  Builder(const TwipScale& twips, QWidget& client)
-      : twips_(twips), client_(client), voice_(new AnnouncementWidget(&client)) {}
+  Builder(Window& window, const TwipScale& twips, QWidget& client)
+      : window_(window), twips_(twips), client_(client), voice_(new AnnouncementWidget(&client)) {}
 
   void Visit(Label& label) override {
     auto* shown = new LabelWidget(&client_);
+    SetAccessibleRole(*shown, QAccessible::StaticText);
     Add(label, shown, [&label, shown] {
       const QString caption = Text(label.Caption);
       shown->SetText(caption, Text(label.AccessibleName) + ": " + caption);
@@ -62,11 +59,7 @@ class Builder : public ControlVisitor {
   }
 
   void Visit(ScrollBar& bar) override {
-    const bool upright = bar.Direction == Orientation::Vertical;
-    auto* shown = new ScrollWidget(upright ? Qt::Vertical : Qt::Horizontal, &client_);
-    shown->setRange(bar.Min, bar.Max);
-    shown->setSingleStep(bar.SmallChange);
-    shown->setPageStep(bar.LargeChange);
+    auto* shown = new ScrollWidget(bar, &client_);
     Mirror& mirror = Add(bar, shown, [&bar, shown] { shown->setValue(bar.Value); });
     QObject::connect(shown, &QScrollBar::valueChanged, shown, [&bar, &mirror](int value) {
       bar.UserScroll(value);
@@ -75,13 +68,18 @@ class Builder : public ControlVisitor {
   }
 
   void Visit(CommandButton& button) override {
-    auto* shown = new QPushButton(&client_);
+    auto* shown = new ButtonWidget(&client_);
     Add(button, shown, [&button, shown] { shown->setText(Literal(button.Caption)); });
     QObject::connect(shown, &QPushButton::clicked, shown, [&button] { button.UserClick(); });
   }
 
   void Visit(OptionButton& button) override {
-    auto* shown = new OptionWidget(&client_);
+    const auto focus = [options = options_](const OptionButton& next) {
+      options->at(&next)->setFocus(Qt::TabFocusReason);
+    };
+    auto* shown = new OptionWidget(window_.options, button, focus, &client_);
+    SetAccessibleRole(*shown, QAccessible::RadioButton);
+    options_->emplace(&button, shown);
     Add(button, shown, [&button, shown] {
       shown->setText(Text(button.Caption));
       shown->setChecked(button.Value);
@@ -91,23 +89,19 @@ class Builder : public ControlVisitor {
 
   void Visit(TextBox& box) override {
     auto* shown = new TextWidget(&client_);
-    // Handlers may set several texts; what is left after the last is spoken.
-    auto* changed = new QTimer(shown);
-    changed->setSingleShot(true);
-    QObject::connect(changed, &QTimer::timeout, shown,
-                     [shown, voice = voice_] { voice->Say(shown->toPlainText()); });
-    Add(box, shown, [&box, shown, changed] {
+    Add(box, shown, [&box, shown, voice = voice_] {
       const QString text = Text(box.Text);
       if (shown->toPlainText() == text) return;
       shown->setPlainText(text);
-      changed->start(0);
+      voice->Say(text);
     });
     QObject::connect(shown, &TextWidget::textChanged, shown,
                      [&box, shown] { box.UserEdit(shown->toPlainText().toStdString()); });
   }
 
   void Visit(PictureBox& box) override {
-    auto* shown = new SketchWidget(&client_, twips_.Zoom());
+    auto* shown = new SketchWidget(box, &client_);
+    SetAccessibleRole(*shown, QAccessible::Canvas);
     Chain(shown);
     mirrors_.push_back(std::make_unique<PictureMirror>(box, twips_, shown, voice_));
   }
@@ -127,19 +121,23 @@ class Builder : public ControlVisitor {
     last_ = shown;
   }
 
-  TwipScale twips_;
+  using OptionWidgets = std::unordered_map<const OptionButton*, OptionWidget*>;
+
+  Window& window_;
+  const TwipScale& twips_;
   QWidget& client_;
   AnnouncementWidget* voice_;  // the client's child
   QWidget* last_ = nullptr;
+  std::shared_ptr<OptionWidgets> options_ = std::make_shared<OptionWidgets>();
   std::vector<std::unique_ptr<Mirror>> mirrors_;
 };
 
 }  // namespace
 
-std::vector<std::unique_ptr<Mirror>> MirrorControls(const std::vector<Control*>& controls,
-                                                    const TwipScale& twips, QWidget& client) {
-  Builder builder(twips, client);
-  for (Control* control : controls) control->Accept(builder);
+std::vector<std::unique_ptr<Mirror>> MirrorControls(Window& window, const TwipScale& twips,
+                                                    QWidget& client) {
+  Builder builder(window, twips, client);
+  for (Control* control : window.controls) control->Accept(builder);
   return builder.Take();
 }
 

@@ -2,33 +2,23 @@
 
 #include <QWidget>
 
-#include <functional>
-#include <optional>
-
 #include "toolkit/picture_box.h"
-#include "toolkit/qt/canvas.h"
+#include "toolkit/qt/letters.h"
+#include "toolkit/raster/canvas.h"
 
 namespace toolkit::qt {
 
-// Shows a canvas in a thin frame, pixel by pixel, and reports mouse buttons in the canvas's pixels
-// and the keys that come while it has the focus.
+// Shows a picture box: its canvas in a thin frame, pixel by pixel. What the mouse and the keyboard
+// do over it goes to the box.
 class SketchWidget : public QWidget {
  public:
-  // `zoom` as for TwipScale.
-  SketchWidget(QWidget* parent, double zoom);
+  SketchWidget(PictureBox& box, QWidget* parent);
 
-  QtCanvas& canvas() { return canvas_; }
-  // Gives the canvas the size and pixel ratio that the widget has now. Drawing may come before the
-  // widget is shown, so this does not wait for a resize event.
-  void FitCanvas();
-
-  // What the picture shows, for those who do not see it.
-  void Describe(const QString& text);
-
-  std::function<void(const MouseEvent&)> pressed, released;
-  std::function<void(Key key, int shift)> keyed;
-  // Where the keyboard points; drawn over the picture while this has the focus.
-  std::function<std::optional<KeyPointer>()> pointer;
+  raster::RasterCanvas& canvas() { return canvas_; }
+  // Gives the canvas the size and pixel ratio that the widget has now, with `zoom` logical pixels
+  // to one of the program's. Drawing may come before the widget is shown, so this does not wait for
+  // a resize event.
+  void FitCanvas(double zoom);
 
  protected:
   bool event(QEvent* event) override;
@@ -37,16 +27,23 @@ class SketchWidget : public QWidget {
   // The second press of a double click is a press like any other.
   void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  void PaintPointer(QPainter& painter, const KeyPointer& at) const;
+  Point OnCanvas(const QPointF& place) const;
   MouseEvent Seen(const QMouseEvent& event) const;
+  // Shows what a press at this place would do.
+  void FitCursor(const QPointF& place);
 
-  double zoom_;
-  QtCanvas canvas_;
+  PictureBox& box_;
+  double zoom_ = 1.0;
+  double ratio_ = 1.0;  // the screen's pixels to a logical one
+  int frame_ = 1;       // the frame's thickness, in the screen's pixels
+  Letters letters_;
+  raster::RasterCanvas canvas_;
 };
 
 }  // namespace toolkit::qt

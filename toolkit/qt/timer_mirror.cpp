@@ -7,7 +7,7 @@ namespace toolkit::qt {
 TimerMirror::TimerMirror(Timer& timer) : timer_(timer) {
   shot_.setSingleShot(true);
   shot_.setTimerType(Qt::PreciseTimer);
-  QObject::connect(&shot_, &QTimer::timeout, &shot_, [this] { Fire(); });
+  QObject::connect(&shot_, &QTimer::timeout, &shot_, [this] { Wake(); });
   Refresh();
   timer_.Attach(this);
 }
@@ -17,27 +17,24 @@ TimerMirror::~TimerMirror() {
 }
 
 void TimerMirror::Refresh() {
-  const Clock::duration period = TickPeriod(timer_.Interval);
-  if (timer_.Enabled == running_ && period == period_) return;
-  running_ = timer_.Enabled;
-  period_ = period;
-  shot_.stop();
-  if (!running_) return;
-  start_ = Clock::now();
-  AimAfter(start_);
+  grid_.Follow(timer_, Clock::now());
+  Aim();
 }
 
-void TimerMirror::Fire() {
-  // The tick has come even if Qt, which counts in milliseconds, is a little early.
-  const Clock::time_point due = due_;
-  timer_.Due();
-  // The handler may have aimed the timer anew, stopped it, or spent several ticks' time.
-  if (running_ && due == due_) AimAfter(std::max(Clock::now(), due));
+// The next shot is set after the handler, which may have taken the time of several ticks.
+void TimerMirror::Wake() {
+  const Clock::time_point now = Clock::now();
+  if (grid_.Due() && now >= *grid_.Due()) timer_.Due();
+  grid_.Take(Clock::now());
+  Aim();
 }
 
-void TimerMirror::AimAfter(Clock::time_point time) {
-  due_ = NextTick(start_, time, period_);
-  const auto wait = std::chrono::ceil<std::chrono::milliseconds>(due_ - Clock::now());
+void TimerMirror::Aim() {
+  if (!grid_.Due()) {
+    shot_.stop();
+    return;
+  }
+  const auto wait = std::chrono::ceil<std::chrono::milliseconds>(*grid_.Due() - Clock::now());
   shot_.start(std::max(wait, std::chrono::milliseconds(0)));
 }
 

@@ -2,13 +2,11 @@
 
 #include <QTimer>
 
-#include "toolkit/timer.h"
+#include "toolkit/tick_grid.h"
 
 namespace toolkit::qt {
 
-// Runs a timer of the program by single shots of one of Qt's, each set for the next place of the
-// even grid that begins when the timer is enabled. A repeating one would make up for ticks that
-// were late by bunching them.
+// Wakes a timer of the program by single shots of one of Qt's, each set for the next tick.
 class TimerMirror : public Mirror {
  public:
   explicit TimerMirror(Timer& timer);
@@ -19,15 +17,12 @@ class TimerMirror : public Mirror {
   void Refresh() final;
 
  private:
-  void Fire();
-  // Sets the shot for the first place of the grid after `time`.
-  void AimAfter(Clock::time_point time);
+  void Wake();
+  void Aim();
 
   Timer& timer_;
+  TickGrid grid_;
   QTimer shot_;
-  bool running_ = false;
-  Clock::duration period_{};
-  Clock::time_point start_, due_;
 };
 
 }  // namespace toolkit::qt

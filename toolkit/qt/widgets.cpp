@@ -1,12 +1,19 @@
 #include "toolkit/qt/widgets.h"
 
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <QToolTip>
 #include <QWheelEvent>
 
+#include <cmath>
+#include <utility>
+
 #include "toolkit/qt/frame.h"
+#include "toolkit/qt/keys.h"
+#include "toolkit/qt/style.h"
 #include "toolkit/qt/wrapped_text.h"
 
 namespace toolkit::qt {
@@ -23,45 +30,34 @@ void LabelWidget::paintEvent(QPaintEvent*) {
   DrawWrapped(painter, rect(), text_, false);
 }
 
-ScrollWidget::ScrollWidget(Qt::Orientation orientation, QWidget* parent)
-    : QScrollBar(orientation, parent) {
-  setFocusPolicy(Qt::StrongFocus);
-  setContextMenuPolicy(Qt::PreventContextMenu);
-}
-
-void ScrollWidget::paintEvent(QPaintEvent* event) {
-  QScrollBar::paintEvent(event);
-  QPainter painter(this);
-  PaintFrame(painter, rect(), palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
-}
-
-// Qt's own scroll bar moves to the right with the left arrow, as it inverts both pairs for the sake
-// of the upright ones.
-void ScrollWidget::keyPressEvent(QKeyEvent* event) {
-  switch (event->key()) {
-    case Qt::Key_Left:
-    case Qt::Key_Up:
-      triggerAction(SliderSingleStepSub);
-      break;
-    case Qt::Key_Right:
-    case Qt::Key_Down:
-      triggerAction(SliderSingleStepAdd);
-      break;
-    default:
-      QScrollBar::keyPressEvent(event);
+void ButtonWidget::keyPressEvent(QKeyEvent* event) {
+  const KeyEvent key = KeyOf(*event);
+  // The space bar stays with Qt, which shows the button held down meanwhile.
+  if (key.code == KeyCode::Enter && Clicks(key)) {
+    click();
+  } else {
+    QPushButton::keyPressEvent(event);
   }
 }
 
-// One notch is one small step, as the values are few and each has its own picture. Turned away from
-// the user the wheel moves the thumb up or left.
-void ScrollWidget::wheelEvent(QWheelEvent* event) {
-  constexpr int kNotch = QWheelEvent::DefaultDeltasPerStep;
-  const QPoint turned = event->angleDelta();
-  wheel_ += qAbs(turned.x()) > qAbs(turned.y()) ? turned.x() : turned.y();
-  const int notches = wheel_ / kNotch;
-  wheel_ -= notches * kNotch;
-  setValue(value() - notches * singleStep());
-  event->accept();
+void MenuBarWidget::Enter() {
+  // The Alt key does so when it is pressed and let go alone.
+  QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, {});
+  QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, {});
+  eventFilter(this, &press);
+  eventFilter(this, &release);
+}
+
+bool MenuBarWidget::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QMenuBar::event(event);
+  const auto* help = static_cast<QHelpEvent*>(event);
+  QAction* item = actionAt(help->pos());
+  if (item != nullptr) {
+    QToolTip::showText(help->globalPos(), item->toolTip(), this, actionGeometry(item));
+  } else {
+    QToolTip::hideText();
+  }
+  return true;
 }
 
 void MenuBarWidget::paintEvent(QPaintEvent* event) {
@@ -74,14 +70,14 @@ void MenuBarWidget::paintEvent(QPaintEvent* event) {
   painter.drawLine(0, height() - 1, width(), height() - 1);
   if (hasFocus() && activeAction() != nullptr) {
     painter.setClipping(false);
-    PaintFrame(painter, actionGeometry(activeAction()), palette().color(QPalette::Highlight));
+    PaintFrame(painter, actionGeometry(activeAction()), palette().color(QPalette::Highlight),
+               ZoomOf(*this));
   }
 }
 
 TextWidget::TextWidget(QWidget* parent) : QPlainTextEdit(parent) {
   setTabChangesFocus(true);
   setFrameShape(QFrame::NoFrame);
-  setViewportMargins(1, 1, 1, 1);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
@@ -91,16 +87,26 @@ bool TextWidget::event(QEvent* event) {
   const bool done = QPlainTextEdit::event(event);
   if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
     update();
+  } else if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange) {
+    const int frame = static_cast<int>(std::ceil(ZoomOf(*this)));
+    setViewportMargins(frame, frame, frame, frame);
   } else if (event->type() == QEvent::Paint) {
     QPainter painter(this);
     painter.fillRect(rect(), palette().base());
     const QColor idle = palette().color(QPalette::Window).darker(130);
-    PaintFrame(painter, rect(), hasFocus() ? palette().color(QPalette::Highlight) : idle);
+    PaintFrame(painter, rect(), hasFocus() ? palette().color(QPalette::Highlight) : idle,
+               ZoomOf(*this));
   }
   return done;
 }
 
-OptionWidget::OptionWidget(QWidget* parent) : QRadioButton(parent) {
+void TextWidget::insertFromMimeData(const QMimeData* source) {
+  if (source != nullptr && source->hasText()) QPlainTextEdit::insertFromMimeData(source);
+}
+
+OptionWidget::OptionWidget(OptionGroup& group, OptionButton& option,
+                           std::function<void(const OptionButton&)> focus, QWidget* parent)
+    : QRadioButton(parent), group_(group), option_(option), focus_(std::move(focus)) {
   setAutoExclusive(false);
   setFocusPolicy(Qt::StrongFocus);
 }
@@ -115,30 +121,18 @@ void OptionWidget::paintEvent(QPaintEvent*) {
   const QRect contents = style()->subElementRect(QStyle::SE_RadioButtonContents, &option, this);
   DrawWrapped(painter, contents, text(), true);
   if (hasFocus()) {
-    QStyleOptionFocusRect focus;
-    focus.QStyleOption::operator=(option);
-    focus.rect = contents.adjusted(-2, 0, 0, 0);
-    painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+    const int gap = style()->pixelMetric(QStyle::PM_RadioButtonLabelSpacing, &option, this);
+    PaintFrame(painter, contents.adjusted(-gap / 2, 0, 0, 0), palette().color(QPalette::Highlight),
+               ZoomOf(*this));
   }
 }
 
-// The arrow keys walk through the buttons that show and click the one that they come to, as in any
-// group of radio buttons.
 void OptionWidget::keyPressEvent(QKeyEvent* event) {
-  const bool on = event->key() == Qt::Key_Down || event->key() == Qt::Key_Right;
-  const bool back = event->key() == Qt::Key_Up || event->key() == Qt::Key_Left;
-  if (!on && !back) {
+  if (const OptionButton* next = group_.UserKey(option_, KeyOf(*event))) {
+    focus_(*next);
+  } else {
     QRadioButton::keyPressEvent(event);
-    return;
   }
-  QWidget* next = this;
-  do {
-    next = on ? next->nextInFocusChain() : next->previousInFocusChain();
-  } while (next != this && (next->parent() != parent() || !next->isVisible() ||
-                            dynamic_cast<OptionWidget*>(next) == nullptr));
-  if (next == this) return;
-  next->setFocus(on ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-  static_cast<OptionWidget*>(next)->click();
 }
 
 }  // namespace toolkit::qt

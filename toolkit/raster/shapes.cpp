@@ -1,11 +1,9 @@
-#include "toolkit/qt/shapes.h"
-
-#include <QImage>
+#include "toolkit/raster/shapes.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace toolkit::qt {
+namespace toolkit::raster {
 namespace {
 
 // Pixels from left to right - 1, top to bottom - 1.
@@ -13,18 +11,18 @@ struct Area {
   int left, top, right, bottom;
 };
 
-// `under` moved toward `over` by weight/256. Red and blue share one product.
-QRgb Mixed(QRgb under, QRgb over, unsigned weight) {
-  constexpr unsigned kRedBlue = 0xff00ffU;
-  constexpr unsigned kGreen = 0x00ff00U;
+// `under` moved toward `over` by weight/256. The two outer components share one product.
+std::uint32_t Mixed(std::uint32_t under, std::uint32_t over, unsigned weight) {
+  constexpr unsigned kOuter = 0xff00ffU;
+  constexpr unsigned kMiddle = 0x00ff00U;
   const unsigned rest = 256U - weight;
-  const unsigned redBlue = ((under & kRedBlue) * rest + (over & kRedBlue) * weight) >> 8U;
-  const unsigned green = ((under & kGreen) * rest + (over & kGreen) * weight) >> 8U;
-  return 0xff000000U | (redBlue & kRedBlue) | (green & kGreen);
+  const unsigned outer = ((under & kOuter) * rest + (over & kOuter) * weight) >> 8U;
+  const unsigned middle = ((under & kMiddle) * rest + (over & kMiddle) * weight) >> 8U;
+  return 0xff000000U | (outer & kOuter) | (middle & kMiddle);
 }
 
 // Inks a pixel whose centre lies so far outside a shape's outline, negative inside.
-void Blend(QRgb& pixel, const Ink& ink, double outside) {
+void Blend(std::uint32_t& pixel, const Ink& ink, double outside) {
   if (!ink.smooth) {
     if (outside <= 0.0) pixel = ink.colour;
     return;
@@ -50,12 +48,11 @@ struct Run {
 template <class Distance>
 class Painter {
  public:
-  Painter(QImage& picture, const Ink& ink, const Distance& distance)
+  Painter(const Pixels& picture, const Ink& ink, const Distance& distance)
       : ink_(ink),
         distance_(distance),
-        bits_(reinterpret_cast<QRgb*>(picture.bits())),
-        stride_(picture.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb))),
-        whole_{0, 0, picture.width(), picture.height()} {}
+        picture_(picture),
+        whole_{0, 0, picture.width, picture.height} {}
 
   void Paint() { Paint(whole_); }
 
@@ -94,7 +91,7 @@ class Painter {
     for (int y = area.top; y < area.bottom; ++y) {
       for (int x = area.left; x < area.right; ++x) {
         const double outside = distance_({static_cast<double>(x), static_cast<double>(y)});
-        Blend(bits_[y * stride_ + x], ink_, outside);
+        Blend(picture_.Row(y)[x], ink_, outside);
       }
     }
   }
@@ -102,8 +99,7 @@ class Painter {
  private:
   const Ink& ink_;
   const Distance& distance_;
-  QRgb* bits_;
-  qsizetype stride_;
+  Pixels picture_;
   Area whole_;
 };
 
@@ -112,7 +108,7 @@ class Painter {
 // Walks along the axis that the line follows more closely, here called u, and paints the few pixels
 // across it, along v. A picture redrawn under the user's hand has a hundred lines; this is where
 // its time goes.
-void PaintLine(QImage& picture, Point from, Point to, double width, const Ink& ink) {
+void PaintLine(const Pixels& picture, Point from, Point to, double width, const Ink& ink) {
   const bool steep = std::abs(to.y - from.y) > std::abs(to.x - from.x);
   const auto turned = [steep](Point p) { return steep ? Point{p.y, p.x} : p; };
   const Point a = turned(from);
@@ -122,14 +118,12 @@ void PaintLine(QImage& picture, Point from, Point to, double width, const Ink& i
   const double dv = length > 0.0 ? (b.y - a.y) / length : 0.0;
   const Point middle{(a.x + b.x) / 2.0, (a.y + b.y) / 2.0};
 
-  auto* const bits = reinterpret_cast<QRgb*>(picture.bits());
-  const qsizetype stride = picture.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb));
-  const qsizetype alongU = steep ? stride : 1;
-  const qsizetype alongV = steep ? 1 : stride;
+  const std::ptrdiff_t alongU = steep ? picture.stride : 1;
+  const std::ptrdiff_t alongV = steep ? 1 : picture.stride;
   const Run us(middle.x, (length * std::abs(du) + 1.5 * width + 1.0) / 2.0,
-               steep ? picture.height() : picture.width());
+               steep ? picture.height : picture.width);
   const double aside = (width + 1.0) / 2.0 / std::abs(du);
-  const int limitV = steep ? picture.width() : picture.height();
+  const int limitV = steep ? picture.width : picture.height;
   // Farther in than this no pixel across the line is touched by its ends.
   const double inner = length * std::abs(du) / 2.0 - width - 2.0;
   for (int u = us.begin; u < us.end; ++u) {
@@ -140,7 +134,7 @@ void PaintLine(QImage& picture, Point from, Point to, double width, const Ink& i
       const double offV = v - middle.y;
       double outside = std::abs(offU * dv - offV * du);
       if (nearEnd) outside = std::max(outside, std::abs(offU * du + offV * dv) - length / 2.0);
-      Blend(bits[u * alongU + v * alongV], ink, outside - width / 2.0);
+      Blend(picture.bits[u * alongU + v * alongV], ink, outside - width / 2.0);
     }
   }
 }
@@ -148,7 +142,7 @@ void PaintLine(QImage& picture, Point from, Point to, double width, const Ink& i
 // With m leading from the touch point to the place, m_n its part toward the centre and d the
 // place's distance from the centre, d - r = (|m|^2 - 2*r*m_n) / (d + r): no difference of two huge
 // numbers. All divided by r, which may be as large as its square would overflow.
-void PaintRing(QImage& picture, const CircleShape& circle, double width, const Ink& ink) {
+void PaintRing(const Pixels& picture, const CircleShape& circle, double width, const Ink& ink) {
   constexpr double kPoint = 1e-6;  // a radius below it makes no difference, except for dividing
   const double r = std::max(circle.radius, kPoint);
   const auto distance = [&](Point place) {
@@ -165,7 +159,7 @@ void PaintRing(QImage& picture, const CircleShape& circle, double width, const I
   Painter(picture, ink, distance).Paint();
 }
 
-void PaintDisc(QImage& picture, Point centre, double radius, const Ink& ink) {
+void PaintDisc(const Pixels& picture, Point centre, double radius, const Ink& ink) {
   const auto distance = [&](Point place) {
     const double dx = place.x - centre.x;
     const double dy = place.y - centre.y;
@@ -177,4 +171,4 @@ void PaintDisc(QImage& picture, Point centre, double radius, const Ink& ink) {
       painter.Between(centre.x - reach, centre.y - reach, centre.x + reach, centre.y + reach));
 }
 
-}  // namespace toolkit::qt
+}  // namespace toolkit::raster

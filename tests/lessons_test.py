@@ -1,0 +1,99 @@
+#!/usr/bin/env python3
+"""Gives the lessons of the README in the real window, by the mouse and keys that are written there,
+and looks whether the sketch shows what they promise. Argument: the program's path."""
+
+import sys
+from contextlib import ExitStack
+from math import pi, sin
+
+from end_to_end_test import open_screen, start
+from real_window import click, deed, expect, look, press, turn
+
+BLACK, RED, LIGHT_BLUE, MAGENTA = (0, 0, 0), (255, 0, 0), (5, 150, 255), (250, 0, 150)
+BLUE, OLIVE, GREEN = (0, 0, 255), (155, 155, 0), (0, 250, 10)
+CREST, FIRST_CIRCLE = (6, 2), [(13.3, -5.3), (0.84, -0.14)]
+
+
+def steady_speed():
+    turn("Tangential acceleration", -20, "επιτάχυνση = 0.0")
+    look(RED, (2.66, 1.39), (9.97, 1.53), (15.27, -1.69))  # tips, all 3 units from their stations
+    look(BLACK, (5.63, 1.5), bare=[(5.65, 1.1)])
+    turn("Initial speed", 3, "ταχύτητα= 6")
+    look(BLACK, (5.73, -0.3), bare=[(5.75, -0.7)])
+    turn("Tangential acceleration", 20, "επιτάχυνση = 2.0")
+    look(LIGHT_BLUE, (18.01, 5), bare=[(5.9, -4.5)])  # a long one in the hollow
+    turn("Tangential acceleration", -30, r"stops at x = 11\.0")
+    turn("Initial speed", -3, r"stops at x = 2\.\d")
+
+
+def sharp_bend():
+    turn("Tangential acceleration", -20, "επιτάχυνση = 0.0")
+    click("CASES")
+    click("RADIUS OF CURVATURE")
+    expect("the first crest and the first trough")
+    press(CREST)
+    expect(r"x = 6\.0, y = 2\.0: speed 3\.0, centripetal acceleration 1\.2 downward")
+    look(MAGENTA, *FIRST_CIRCLE)
+    look(LIGHT_BLUE, (6, 1.5), bare=[(6, 1.1)])
+    press((12, 0))
+    look(MAGENTA, (4, 4.19), (18, -3.14))  # as good as a straight line
+    look(LIGHT_BLUE, bare=[(12.3, 0.6), (11.7, -0.6)])
+    turn("Frequency", 15, "Συχνότης=3.0")
+    press((3, 2))
+    expect(r"x = 3\.0, y = 2\.0: speed 3\.0, centripetal acceleration 4\.9 downward")
+    look(MAGENTA, (4.82, 0.18), (1.18, 0.18))  # a quarter of its radius
+    look(LIGHT_BLUE, (3, -0.3), bare=[(3, -0.8)])
+
+
+def which_force():
+    click("CASES")
+    click("GUESS A FORCE")
+    expect("fifteen stations")
+    press(CREST)
+    look(OLIVE, (2.7, 2))
+    press(CREST, (6, 6))
+    expect("^FORCE: INCORRECT FOR THE TANG.*FORCE: HAS WRONG DIRECTION FOR THE SHAPE")
+    press(CREST, (1, 0))
+    expect("^FORCE: INCORRECT FOR THE TANG.*FORCE: HAS THE CORRECT DIRECTION FOR THE SHAPE")
+    press(CREST, (9.8, -1.3))
+    expect("^FORCE: HAS THE CORRECT DIRECTION FOR THE SHAPE")
+    look(GREEN, (6, -0.9))
+    press(CREST, (10.5, -4.75))
+    look(BLUE, (9, -2.5))
+    look(GREEN, bare=[(6, -0.9), (6, 1)])
+
+
+def evolve(*marks, **others):
+    """Enters the motion in time with 20 steps to the unit, and waits for marks over these x."""
+    click("TIME DEPENDENT")
+    click("Time evolution")
+    click("Time steps")
+    deed("key", "Home", "key", "Next")
+    expect("Δt = 0.050")
+    click("Start")
+    look(RED, *((x, 2 * sin(pi / 12 * x)) for x in marks), **others)
+
+
+def odd_numbers():
+    turn("Initial speed", -3, "ταχύτητα= 0")
+    turn("Tangential acceleration", -18, "επιτάχυνση = 0.2")
+    # 0.9, 3.6, 8.1 and 14.4 along the curve; nothing in between when the body has left.
+    evolve(0, 0.8, 3.26, 7.69, 13.44, bare=[(2, 1), (5.5, 1.98), (10.5, 0.77), (18, -2)])
+
+
+def there_and_back():
+    turn("Initial speed", 3, "ταχύτητα= 6")
+    turn("Tangential acceleration", -30, "επιτάχυνση = -1.0")
+    evolve(0, 12.63, 16.83)  # 13.5 along the curve, and 18, where it turns
+    for command in ("STOP", "Step", "CONTINUE"):
+        click(command)
+    look(BLACK, (1, -0.25), (3.8, -0.25))  # the label of t = 12, at the origin
+    click("STOP")
+
+
+for lesson in (steady_speed, sharp_bend, which_force, odd_numbers, there_and_back):
+    with ExitStack() as stack:
+        open_screen(stack)
+        start(stack, sys.argv[1])
+        look(MAGENTA, *FIRST_CIRCLE)  # the window is in its place
+        lesson()

@@ -1,0 +1,86 @@
+#include "qt_window.h"
+#include "toolkit/qt/window_mirror.h"
+
+namespace {
+
+TEST(QtScreens, ThePrimaryOneIsCoveredWhereverItStands) {
+  const Screen right{{1024, 200, 1366, 768}}, left{{0, 0, 1024, 600}};
+  const Running program({right, left});
+  EXPECT_EQ(program.frame->frameGeometry(), right.place);
+}
+
+TEST(QtScreens, ASmallerWindowScrollsAndALargerOneIsWhole) {
+  OnEachScreen([](Running& program) {
+    program.Action("campyles").trigger();
+    const QSize whole = program.frame->size();
+    auto& area = *program.frame->findChild<QScrollArea*>();
+    const auto scrolls = [&] {
+      QApplication::processEvents();
+      return area.horizontalScrollBar()->isVisible() || area.verticalScrollBar()->isVisible();
+    };
+    EXPECT_FALSE(scrolls());
+    program.frame->resize(whole / 3);
+    EXPECT_TRUE(scrolls());
+    // The tab key comes to every control that shows, and each is seen when it has the keyboard.
+    std::vector<std::string> unseen;
+    for (const toolkit::Control* control : program.window->controls) {
+      if (control->Visible && program.Find(control->Name).focusPolicy() != Qt::NoFocus) {
+        unseen.push_back(control->Name);
+      }
+    }
+    EXPECT_EQ(unseen.size(), 8);
+    for (std::size_t i = unseen.size(); i > 0; --i) {
+      program.Press(Qt::Key_Tab);
+      const QWidget& focused = *QApplication::focusWidget();
+      const QRect view(focused.mapFrom(program.frame, area.mapTo(program.frame, QPoint())),
+                       area.viewport()->size());
+      if (view.intersects(focused.rect().marginsRemoved({3, 3, 3, 3}))) {
+        std::erase(unseen, program.Focused());
+      }
+    }
+    EXPECT_EQ(unseen, std::vector<std::string>());
+    program.frame->resize(whole);
+    EXPECT_FALSE(scrolls());
+  });
+}
+
+// The layout stays and all of it shrinks or grows, with a picture as sharp as one drawn there.
+TEST(QtScreens, AnotherOneShowsTheSamePicture) {
+  Running program;
+  QWidget& sketch = program.Find("eikona");
+  const auto draw = [&] { program.Action("DYNAMEISDIAFORES").trigger(); };
+  program.window->platosvalue.UserScroll(30);
+  draw();
+  program.Focus("Text1");
+  const float left = program.window->Text1.Left;
+  for (const Screen& screen : kScreens) {
+    if (screen.ratio != 1.0) continue;
+    static_cast<toolkit::qt::WindowMirror*>(program.frame)->Cover(screen.place);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return program.frame->frameGeometry() == screen.place; }));
+    EXPECT_EQ(program.window->Text1.Left, left);
+    EXPECT_EQ(sketch.height(), screen.place.height() * 3 / 4);
+    const QImage kept = program.Seen(sketch);
+    draw();
+    EXPECT_EQ(program.Seen(sketch), kept);
+  }
+}
+
+// Menus, tooltips and message boxes have letters of one size, which follows the zoom.
+TEST(QtScreens, EverythingThatIsReadFollowsTheZoom) {
+  OnEachScreen([](Running& program) {
+    const double zoom = program.screen.zoom, letters = 12 * zoom;
+    const int want = static_cast<int>(zoom < 1 ? std::floor(letters) : std::round(letters));
+    const QMenuBar& bar = *program.frame->findChild<QMenuBar*>();
+    EXPECT_EQ(bar.font().pixelSize(), want);
+    EXPECT_EQ(program.Action("periptoseis").menu()->font().pixelSize(), want);
+    EXPECT_EQ(QToolTip::font().pixelSize(), want);
+    EXPECT_EQ(QMessageBox().font().pixelSize(), want);
+    EXPECT_LE(bar.height(), 26 * zoom);
+    const QWidget& option = program.Find("Option2");
+    const int circle =
+        option.style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &option);
+    EXPECT_NEAR(circle, 14 * zoom, 0.5);
+  });
+}
+
+}  // namespace

@@ -1,0 +1,79 @@
+#include <gtest/gtest.h>
+
+#include "harness.h"
+
+// What the program tells those who do not see it, or do not read Greek.
+
+namespace {
+
+using toolkit::Cursor;
+
+// Everything but the sketch and the explanation has one.
+TEST(Told, AHintForWhatIsGreekOrShort) {
+  Program p;
+  app::firststep& w = *p.window;
+  const auto expectHints = [](const auto& components) {
+    for (const auto* c : components) EXPECT_GT(c->Hint.size(), 10U) << c->Name;
+  };
+  expectHints(std::vector(w.controls.begin() + 2, w.controls.end()));
+  expectHints(w.menus);
+  expectHints(w.periptoseis.items);
+  EXPECT_TRUE(w.eikona.Hint.empty() && w.STAMATHMA.Hint == "Stops the run");
+}
+
+TEST(Told, ValuesAsTheLabelsShowThem) {
+  Program p;
+  const auto told = [&] {
+    std::string values;
+    for (const toolkit::ScrollBar* bar : p.bars) values += bar->Told() + "; ";
+    return values;
+  };
+  EXPECT_EQ(told(), "2.0; 1.5; 2.00; 3; 50, Δt = 0.02; ");
+  p.Scroll({35, 1, -20, 15, 300});
+  EXPECT_EQ(told(), "3.5; 0.1; -2.0; 15; 300, Δt = 0.003; ");
+}
+
+// By case: nothing to be done, a place to press, a point of the track to pick, and one that is held
+// and can be pulled at.
+TEST(Told, ByTheMousePointer) {
+  Program p;
+  app::firststep& w = *p.window;
+  const auto over = [&](double x, double y) { return w.eikona.CursorAt(p.Pixel(x, y)); };
+  EXPECT_TRUE(over(6, 2) == Cursor::Arrow && over(6, 5) == Cursor::Arrow);
+  for (toolkit::MenuItem* item : w.periptoseis.items) {
+    item->UserClick();
+    for (const double off : {-0.101, -0.099, 0.099, 0.101}) {
+      EXPECT_EQ(over(6, 2 + off), std::abs(off) < 0.1 ? Cursor::PointingHand : Cursor::Cross)
+          << off;
+    }
+    const bool guess = item == &w.GUESSFORCE;
+    p.Press(6, 2);
+    EXPECT_EQ(over(9, 9), guess ? Cursor::ClosedHand : Cursor::Cross);
+    p.Release(9, 9);
+    EXPECT_EQ(over(9, 9), Cursor::Cross);
+    p.Press(6, 5);
+    EXPECT_TRUE(over(9, 9) == Cursor::Cross && over(6, 2) == Cursor::PointingHand);
+  }
+}
+
+// Marks with a label, as long as the body is on the sketch; the end of a run, once.
+TEST(Told, WhatARunAddsToThePicture) {
+  Program p;
+  using Texts = std::vector<std::string>;
+  Texts said;
+  p.window->eikona.AttachAnnouncer([&](const std::string& text) { said.push_back(text); });
+  p.Scroll({20, 15, 1, 2, 20});
+  p.window->Option2.UserClick();
+  p.window->Command1.UserClick();
+  while (p.window->Timer1.Enabled) p.desktop.Tick();
+  const char* const left = "The run has ended: the body has left the sketch";
+  EXPECT_EQ(said, (Texts{"Ds =3.23 t =3.00", "Ds = 1.14 X3.23 t = 6.00", left}));
+
+  said.clear();
+  p.Scroll({20, 15, 0, 0, 20});
+  p.window->Command1.UserClick();
+  for (int i = 0; i < window::PathRecords::kLastStep + 3; ++i) p.desktop.Tick();
+  EXPECT_EQ(said, (Texts{"Ds =0.00 t =3.00", "The run has ended: the records are full"}));
+}
+
+}  // namespace
