@@ -1,0 +1,107 @@
+// Sizes, ratios and their changes: everything is on the page, nothing is cut, no text covers
+// another, and neither state nor picture is lost.
+import assert from 'node:assert/strict';
+import { test } from 'node:test';
+
+import { Pointing, Typing } from './program.mjs';
+
+const kSizes = [[640, 480], [800, 600], [1024, 600], [768, 1024], [844, 390], [1366, 768],
+  [1080, 1920], [1920, 1080], [2560, 1440], [3840, 2160]];
+const kSomeSizes = [[640, 480], [768, 1024], [1366, 768]]; // for the ratios beyond the first
+const kPhone = [390, 844];
+
+// What is outside the page or cut off, and which texts meet. A page that may scroll holds what can
+// be scrolled to.
+const faults = (mayScroll) => `(() => {
+  const found = [];
+  const page = document.scrollingElement;
+  const edge = ${mayScroll} ? [page.scrollWidth, page.scrollHeight] : [innerWidth, innerHeight];
+  if (page.scrollWidth > edge[0] || page.scrollHeight > edge[1]) {
+    found.push('the page scrolls: ' + [page.scrollWidth, page.scrollHeight, ...edge]);
+  }
+  const seen = [...document.querySelectorAll('main [id], main canvas')].filter((element) =>
+    element.id !== 'live' && element.checkVisibility({ visibilityProperty: true }));
+  const texts = [];
+  for (const element of seen) {
+    const { left, top, right, bottom } = element.getBoundingClientRect();
+    if (left + scrollX < 0 || top + scrollY < 0 || right + scrollX > edge[0] + 0.5 ||
+        bottom + scrollY > edge[1] + 0.5) {
+      found.push(element.id + ' is outside: ' + [left, top, right, bottom]);
+    }
+    const { scrollWidth, clientWidth, scrollHeight, clientHeight } = element;
+    const holds = element.querySelector('[id]');
+    if (!holds && clientWidth && (scrollWidth > clientWidth || scrollHeight > clientHeight)) {
+      found.push(element.id + ' is cut: ' +
+        [scrollWidth, clientWidth, scrollHeight, clientHeight]);
+    }
+    if (holds || element.matches('textarea, input, canvas')) continue;
+    const range = document.createRange();
+    range.selectNodeContents(element.querySelector('span:not(.spoken)') ?? element);
+    texts.push(...[...range.getClientRects()].map((box) => ({ id: element.id, box })));
+  }
+  texts.forEach(({ id, box }, index) => {
+    for (const other of texts.slice(index + 1)) {
+      const wide = Math.min(box.right, other.box.right) - Math.max(box.left, other.box.left);
+      const high = Math.min(box.bottom, other.box.bottom) - Math.max(box.top, other.box.top);
+      if (id !== other.id && wide > 1 && high > 2) found.push(id + ' meets ' + other.id);
+    }
+  });
+  return found;
+})()`;
+
+// One pixel of the picture is one of the screen's.
+const kSharp = `((canvas, { width, height }) =>
+  Math.abs(width * devicePixelRatio - canvas.width) < 0.5 &&
+  Math.abs(height * devicePixelRatio - canvas.height) < 0.5)(document.getElementById('eikona'),
+  document.getElementById('eikona').getBoundingClientRect())`;
+
+async function resize(program, [width, height], ratio) {
+  await program.engine.resize(width, height, ratio);
+  await program.waitFor(`innerWidth === ${width} && devicePixelRatio === ${ratio}`);
+  await program.frames(2);
+  await program.waitFor(kSharp);
+}
+
+const places = (ratios) => ratios.flatMap((ratio) =>
+  (ratio === 1 ? kSizes : kSomeSizes).map((size) => ({ size, ratio })));
+
+// The picture's pixels, remembered, and whether they are the same later.
+const kPixels = `((canvas) => new Uint32Array(canvas.getContext('2d').getImageData(0, 0,
+  canvas.width, canvas.height).data.buffer))(document.getElementById('eikona'))`;
+const kRemember = `void (globalThis.remembered = ${kPixels})`;
+const kIsSame = `((now) => now.length === remembered.length &&
+  now.every((pixel, at) => pixel === remembered[at]))(${kPixels})`;
+
+export function testLayout(program, ratios) {
+  const mouse = new Pointing(program, 'mouse');
+
+  test('all is on the page, whatever its size, from start to end', async () => {
+    for (const { size, ratio } of places(ratios)) {
+      await program.engine.resize(...size, ratio);
+      await program.open();
+      assert.deepEqual(await program.evaluate(faults(false)), [], `${size} at ${ratio}`);
+      await mouse.click('campyles');
+      await mouse.click('Option2');
+      assert.deepEqual(await program.evaluate(faults(false)), [], `a run, ${size} at ${ratio}`);
+    }
+  });
+
+  test('a change of size or ratio keeps state and picture', async () => {
+    await program.engine.resize(1366, 768, ratios[0]);
+    await program.open();
+    await mouse.click('campyles');
+    await new Typing(program).scroll('platosvalue', 24);
+    await mouse.click('DYNAMEISDIAFORES');
+    const state = await program.state();
+    for (const { size, ratio } of [...places(ratios).reverse(), { size: kPhone, ratio: ratios.at(-1) }]) {
+      const where = `${size} at ${ratio}`;
+      await resize(program, size, ratio);
+      assert.deepEqual(await program.evaluate(faults(size === kPhone)), [], where);
+      assert.deepEqual(await program.state(), state, where);
+      await program.evaluate(kRemember);
+      await mouse.click('DYNAMEISDIAFORES');
+      await program.frames(2);
+      assert.ok(await program.evaluate(kIsSame), `the picture, ${where}`);
+    }
+  });
+}

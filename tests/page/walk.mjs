@@ -1,0 +1,101 @@
+// Whatever a learner does, in whatever order: nothing breaks, nothing is said on the console, and
+// nothing piles up. And when the program has been ended, nothing of it goes on.
+import assert from 'node:assert/strict';
+import { test } from 'node:test';
+
+import { copyWith } from './copy.mjs';
+import { device, down, stroke, to, turn, up } from './engine.mjs';
+import { Pointing, noise } from './program.mjs';
+
+const kEvents = 2000;
+const kAtOnce = 20; // of each device, before it is looked whether the program has been ended
+const kMostGrowth = 2 ** 20; // bytes of JavaScript, from the first half to the second
+
+// The program's memory, and how often a frame was asked for, are kept where the test finds them.
+const kWatch = `{
+  const instantiate = WebAssembly.instantiate;
+  WebAssembly.instantiate = async (...given) => {
+    const made = await instantiate(...given);
+    globalThis.memoryOfProgram = made.instance.exports.memory;
+    return made;
+  };
+  const ask = requestAnimationFrame;
+  globalThis.framesAsked = 0;
+  globalThis.requestAnimationFrame = (then) => {
+    globalThis.framesAsked += 1;
+    return ask(then);
+  };
+}`;
+
+// Mulberry32: small, and the same in every version of Node.
+function randomFrom(seed) {
+  let state = seed >>> 0;
+  return (below) => {
+    state = (state + 0x6d2b79f5) >>> 0;
+    let mixed = Math.imul(state ^ (state >>> 15), 1 | state);
+    mixed = (mixed + Math.imul(mixed ^ (mixed >>> 7), 61 | mixed)) ^ mixed;
+    return ((mixed ^ (mixed >>> 14)) >>> 0) % below;
+  };
+}
+
+const kKeys = ['Tab', 'Tab', 'Space', 'Enter', 'Escape', 'F10', 'Shift', 'ArrowLeft', 'ArrowUp',
+  'ArrowRight', 'ArrowDown', 'PageUp', 'PageDown', 'Home', 'End', 'c', 'r', 'g', 't', 'z'];
+
+// The keyboard, the mouse and the wheel side by side.
+function someEvents(engine, random, [width, height]) {
+  const place = () => [random(width), random(height)];
+  const some = (choose) => Array.from({ length: kAtOnce }, choose);
+  return engine.act([
+    device('key', 'keys', some(() =>
+      stroke(random(3) > 0 ? 'keyDown' : 'keyUp', kKeys[random(kKeys.length)]))),
+    device('pointer', 'walk', some(() => [to(place()), down, up][random(3)]), 'mouse'),
+    device('wheel', 'wheel', some(() => turn(place(), 120 * (random(3) - 1)))),
+  ]);
+}
+
+const kEnded = "!document.getElementById('eikona')?.checkVisibility()";
+
+export function testWalk(program) {
+  const watched = copyWith('watched', kWatch);
+  const mouse = new Pointing(program, 'mouse');
+
+  test('a random walk breaks nothing and piles nothing up', async () => {
+    const seed = Number(process.env.FIRSTSTEP_SEED ?? Date.now() % 2 ** 32);
+    console.log(`The random walk's seed: FIRSTSTEP_SEED=${seed}`);
+    const random = randomFrom(seed);
+    const { engine } = program;
+    const size = [1024, 600];
+    await engine.resize(...size);
+    await program.open(watched);
+    let half = null;
+    for (let events = 0; events < kEvents; events += 3 * kAtOnce) {
+      await someEvents(engine, random, size);
+      assert.deepEqual(await noise(engine), []);
+      if (await program.evaluate(kEnded)) await program.open(watched);
+      if (events >= kEvents / 2) half ??= await engine.memory();
+    }
+    const whole = await engine.memory();
+    assert.ok(whole.scripts <= half.scripts + kMostGrowth, `${half.scripts}, then ${whole.scripts}`);
+    assert.equal(whole.program, half.program);
+    await engine.release();
+    await mouse.click('GUESSFORCE');
+    await mouse.click('DYNAMEISDIAFORES');
+    assert.equal((await program.state())['DYNAMEISDIAFORES checked'], true);
+  });
+
+  test('"end" ends everything, and says how to begin again', async () => {
+    await program.open(watched);
+    await mouse.click('campyles');
+    await mouse.click('Option2');
+    await mouse.click('Command1');
+    await mouse.click('TERMATISMOS');
+    await program.waitFor(kEnded);
+    assert.match(await program.evaluate('document.body.innerText'), /To begin again/);
+    const asked = await program.evaluate('framesAsked');
+    await program.engine.resize(800, 600);
+    await program.engine.press('F10');
+    await program.evaluate("new Promise((resolve) => { setTimeout(resolve, 100); })");
+    assert.equal(await program.evaluate('framesAsked'), asked);
+    assert.deepEqual(await noise(program.engine), []);
+  });
+}
