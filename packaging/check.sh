@@ -22,6 +22,9 @@ check_tree() {
   for file in "$1/bin/firststep" "$share/doc/firststep/"{README.md,docs/physics.md}; do
     [[ -s $file ]] || fail "$file is missing."
   done
+  for file in $(grep -o '[a-z]*\.png' "$share/metainfo/$id.metainfo.xml"); do
+    [[ -s $share/doc/firststep/docs/$file ]] || fail "The description shows $file, which is missing."
+  done
   desktop-file-validate "$share/applications/$id.desktop"
   grep -qx "Icon=$id" "$share/applications/$id.desktop" || fail "The desktop file has another icon."
   appstreamcli validate --no-net "$share/metainfo/$id.metainfo.xml"
@@ -50,10 +53,19 @@ cpack --config "$built/CPackConfig.cmake" -B "$scratch/package" >"$scratch/cpack
   fail "$(<"$scratch/cpack.log")"
 package=$(echo "$scratch"/package/*.deb)
 dpkg-deb --info "$package"
-for library in libc6 libqt6core6 libqt6gui6 libqt6widgets6; do
-  dpkg-deb --field "$package" Depends | grep -qw "$library" ||
+for library in libc6 'libqt6core6(t64)?' libqt6gui6 libqt6widgets6; do # t64: its name in Debian 13
+  dpkg-deb --field "$package" Depends | grep -qwE "$library" ||
     fail "The package does not ask for $library."
 done
+
+# All papers tell the same version, and Debian finds no error in the package.
+version=$(dpkg-deb --field "$package" Version)
+[[ $(dpkg-parsechangelog -l packaging/changelog -S Version) == "$version" ]] &&
+  grep -m1 '^## ' CHANGELOG.md | grep -qF "$version" &&
+  grep -m1 '<release ' packaging/$id.metainfo.xml | grep -qF "\"$version\"" &&
+  grep -qF "firststep $version" packaging/firststep.1 || fail "A paper tells another version."
+grep -qxF "$(<COPYRIGHT)" README.md || fail "The README says another thing about rights."
+lintian --fail-on error "$package" || fail "lintian finds errors in the package."
 
 dpkg-deb --extract "$package" "$scratch/unpacked"
 diff <(cd "$scratch/installed" && find . | sort) <(cd "$scratch/unpacked" && find . | sort) ||
