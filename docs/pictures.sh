@@ -59,14 +59,14 @@ turn() {
   keys Home "${@:3}"
 }
 
-evolution() { # from rest, slowly, 20 steps to a unit of time: the labels read 3, 5, 7
+evolution() { # from rest, slowly, 20 steps to a unit of time: the labels read 3, 5 and 7
   turn 641 660
-  turn 368 648 $(printf 'Right %.0s' {1..38}) # a tangential acceleration of 0.3
+  turn 368 648 $(printf 'Right %.0s' {1..37}) # a tangential acceleration of 0.2
   click 160 8
   click 60 660
   turn 230 624 Next
   click 150 622
-  xdotool key --delay 20 --repeat 209 space # step by step, the same on every machine
+  xdotool key --delay 20 --repeat 275 space # step by step, the same on every machine
 }
 
 picture opening true
