@@ -11,11 +11,10 @@ import os
 import re
 import sys
 import tempfile
-import time
 from contextlib import ExitStack
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, "tests"))
-from end_to_end_test import PATIENCE, ask, open_screen, start, until_none
+from end_to_end_test import ask, open_screen, ready_window, start, until_ended, until_none
 
 TOP, UNDER = 36, 611  # of the sketch's inside, and the rows of controls under it
 
@@ -61,6 +60,7 @@ SESSION = [
     ("choose the time again", ["key", "alt+t"]),
     ("the evolution", click(60, UNDER + 49)),
     ("smaller steps", click(267, UNDER + 12)),
+    ("the smallest, for a long run", ["key", "End"]),
     ("a step", click(150, UNDER + 12)),
     ("start", click(84, UNDER + 12)),
     ("stop", ["key", "alt+s"]),
@@ -70,6 +70,7 @@ SESSION = [
     ("the evolution again", click(60, UNDER + 49)),
     ("start again", click(84, UNDER + 12)),
 ]
+RUNNING = ("stop", "stop again")  # the picture goes on changing before these
 ENDS = {'"end"': "alt+e", "the window manager": "alt+F4"}
 
 
@@ -77,16 +78,15 @@ def picture():
     return hashlib.md5(ask("import", "-silent", "-window", "root", "ppm:-")).digest()
 
 
-def settled():
-    """The picture when it has stopped to change, or whatever it is after a while."""
-    seen, end = None, time.monotonic() + 1
-    while (last := seen) != (seen := picture()) and time.monotonic() < end:
-        pass
-    return seen
+def settled(what):
+    """The picture when it has stopped to change."""
+    seen = [picture()]
 
-
-def windows(*which):
-    return ask("xdotool", *which).decode().split()
+    def changing():
+        seen.append(picture())
+        return seen[-1] != seen[-2] and f"the picture goes on changing before: {what}"
+    until_none(changing)
+    return seen[-1]
 
 
 def play(stack, command, how, home):
@@ -94,18 +94,13 @@ def play(stack, command, how, home):
     own = {"DBUS_SESSION_BUS_ADDRESS": "disabled:", "HOME": home, "XDG_RUNTIME_DIR": home}
     kept = ("PATH", "DISPLAY", "QT_QPA_PLATFORM", "LSAN_OPTIONS")
     program = start(stack, *command, env=own | {name: os.environ[name] for name in kept})
-    search = ("search", "--onlyvisible", "--name", "^first explanation$")
-    until_none(lambda: not windows(*search) and "no window")
-    window = windows(*search)[0]
-    until_none(lambda: windows("getactivewindow") != [window] and "the window is not active")
+    window = ready_window()
     for what, action in SESSION:
-        before = settled()
+        before = picture() if what in RUNNING else settled(what)
         ask("xdotool", *(window if word == "WINDOW" else word for word in action))
         until_none(lambda what=what, before=before: picture() == before and f"no change by: {what}")
     ask("xdotool", "key", ENDS[how])
-    status = program.wait(PATIENCE)
-    if status != 0:
-        sys.exit(f"FAILED: ended by {how} with status {status}")
+    until_ended(program, how)
 
 
 def examine(log):
@@ -134,8 +129,9 @@ def left_behind(log, home):
     with open("/proc/sysvipc/shm", encoding="ascii") as segments:
         left = [f"shared memory {fields[1]}" for fields in map(str.split, segments)
                 if fields[4] in pids]
-    return left + [f"process {pid}" for pid in pids if os.path.exists(f"/proc/{pid}")] + [
-        f"file {name}" for name in os.listdir(home) if name != ".cache"]
+    left += [f"process {pid}" for pid in pids if os.path.exists(f"/proc/{pid}")]
+    left += [f"file {name}" for name in os.listdir(home) if name != ".cache"]
+    return left and f"left behind: {left}"
 
 
 def main(program, tracer=None):
@@ -151,7 +147,8 @@ def main(program, tracer=None):
                 with open(trace, encoding="utf-8", errors="replace") as log:
                     lines = list(log)
                 faults, others = examine(lines)
-                faults += left_behind(lines, home)
+                # The display lets go of shared memory when it sees that its user has ended.
+                until_none(lambda lines=lines, home=home: left_behind(lines, home))
                 print("The libraries' own:", *others, sep="\n  ")
                 if faults or not others:
                     sys.exit("\n  ".join(["FAILED: the program's own:", *faults]))
