@@ -22,13 +22,17 @@ std::uint32_t Mixed(std::uint32_t under, std::uint32_t over, unsigned weight) {
 }
 
 // Inks a pixel whose centre lies so far outside a shape's outline, negative inside.
-void Blend(std::uint32_t& pixel, const Ink& ink, double outside) {
+inline void Blend(std::uint32_t& pixel, const Ink& ink, double outside) {
   if (!ink.smooth) {
     if (outside <= 0.0) pixel = ink.colour;
     return;
   }
-  const double cover = std::min(std::max(0.5 - outside, 0.0), 1.0);
-  pixel = Mixed(pixel, ink.colour, static_cast<unsigned>(static_cast<int>(cover * 256.0)));
+  if (!(outside < 0.5)) return;
+  if (outside <= -0.5) {
+    pixel = ink.colour;
+    return;
+  }
+  pixel = Mixed(pixel, ink.colour, static_cast<unsigned>(static_cast<int>((0.5 - outside) * 256.0)));
 }
 
 // The whole numbers from 0 to limit - 1 that lie less than `reach` from `middle`. By cutting off

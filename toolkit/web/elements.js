@@ -8,7 +8,9 @@ import { announce, client, fitLater, make, shell } from './texts.js';
 const kKeys = ['ArrowLeft', 'ArrowRight', 'ArrowUp', 'ArrowDown', 'PageUp', 'PageDown', 'Home',
   'End', 'Enter', ' ', 'Escape', 'Shift']; // in the order of the program's KeyCodes; others follow
 const options = make('div', { role: 'radiogroup', 'aria-label': 'Case', hidden: '' });
-const elements = []; // by number
+const elements = []; // by number; each knows what it was told last, as a change costs time
+// What the user changes as well need not be there any more.
+const isUsers = ({ kind }, what) => what === 'value' || kind === 'Text';
 
 const item = (role) => ['Item', () => make('div', { role, tabindex: -1 })];
 const kinds = { // with the name under which the program hears of them
@@ -34,7 +36,8 @@ const showText = { // by kind; the text of all others is what is in them
   },
   Label(element, text) {
     element.lastChild.textContent = text;
-    element.lang = /\p{Script=Greek}/u.test(text) ? 'el' : 'en';
+    const language = /\p{Script=Greek}/u.test(text) ? 'el' : 'en';
+    if (element.lang !== language) element.lang = language;
   },
 };
 
@@ -49,7 +52,7 @@ const setters = { // all else is an attribute
     if (element.kind === 'Label') element.firstChild.textContent = `${name}: `;
     else element.setAttribute('aria-label', name);
   },
-  value(element, value) { element.value = value; },
+  value(element, value) { if (element.value !== value) element.value = value; },
   description(_, text) { document.getElementById('seen').textContent = text; },
   // The first such letter of the text is the one to press.
   mnemonic(element, letter) {
@@ -63,7 +66,7 @@ export const forProgram = {
   Make(kindAt, nameAt, inside) {
     const kind = textAt(kindAt);
     const [name, create] = kinds[kind];
-    const element = Object.assign(create(), { kind: name, at: elements.length });
+    const element = Object.assign(create(), { kind: name, at: elements.length, told: {} });
     elements.push(element);
     if (element === shell) return element.at;
     element.id = textAt(nameAt);
@@ -76,14 +79,19 @@ export const forProgram = {
     const element = elements[at];
     const what = textAt(whatAt);
     const value = valueAt ? textAt(valueAt) : null;
+    if (element.told[what] === value && !isUsers(element, what)) return;
+    element.told[what] = value;
     if (setters[what]) setters[what](element, value);
     else if (value === null) element.removeAttribute(what);
-    else if (element.getAttribute(what) !== value) element.setAttribute(what, value);
+    else element.setAttribute(what, value);
     if (what === 'hidden') options.hidden = !options.querySelector(':not([hidden])');
   },
   // A bar that stands upright is one that lies, turned by a quarter: so it is in every browser.
   Place(at, left, top, width, height, letters) {
     const element = elements[at];
+    const box = [left, top, width, height, letters].join();
+    if (element.box === box) return;
+    element.box = box;
     const upright = element.getAttribute('aria-orientation') === 'vertical';
     const [long, short] = upright ? [height, width] : [width, height];
     Object.assign(element.style, { left: `${left}px`, top: `${top}px`, width: `${long}px`,
