@@ -82,6 +82,8 @@ TEST(Menus, EachHasALetterOfItsOwn) {
   toolkit::MenuItem greek(*p.window, "", "Αρχή [B]ac");
   EXPECT_EQ(toolkit::Mnemonics({&back, &greek, &back, &greek, &back, &back}),
             (Places{0, 12, 2, {}, 3, {}}));
+  toolkit::MenuItem high(*p.window, "", "AZ"), low(*p.window, "", "azb");
+  EXPECT_EQ(toolkit::Mnemonics({&high, &high, &low}), (Places{0, 1, 2}));
 }
 
 // What the picture hears of the keys.

@@ -94,6 +94,8 @@ TEST(Interaction, ShowsAndJudgesWherePicked) {
 TEST(Interaction, RejectsPointsOffTheTrack) {
   const double reach = 0.1F, inside = reach - 0x1p-27;
   Picked p(20, 15, 3, 20, true);
+  p.Pull(5, -1);  // nothing was picked before
+  EXPECT_TRUE(p.Operations().empty());
   for (const double y : {reach, -reach, inside, -inside, 2.0}) {
     const bool accepted = std::abs(y) == inside;
     p.Forget();

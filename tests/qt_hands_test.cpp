@@ -164,6 +164,7 @@ TEST_F(QtHands, MenuItemsCanBeReadAndWorkedFromOutside) {
   QAccessibleInterface* menu = cases->child(0);
   ASSERT_TRUE(cases->childCount() == 1 && cases->indexOfChild(menu) == 0);
   EXPECT_TRUE(menu->text(QAccessible::Name) == "CASES" && menu->childCount() == 2);
+  EXPECT_EQ(cases->indexOfChild(root), -1);
   QAccessibleInterface* guess = menu->child(1);
   EXPECT_TRUE(guess->state().invisible && guess->state().checkable && !guess->state().checked);
   work(cases);

@@ -36,6 +36,12 @@ TEST(QtLook, WhatHasTheKeyboardIsFramed) {
       const QImage focused = program.Seen(widget);
       const QRect ring = PartOf(focused, [](QRgb at) { return at == kHighlight; });
       EXPECT_EQ(FrameOf(focused.copy(ring), kHighlight), program.Thickness(width));
+      // It crosses no letter.
+      for (int y = 0; y < idle.height(); ++y) {
+        for (int x = 0; x < idle.width() && !whole; ++x) {
+          EXPECT_FALSE(Dark(idle.pixel(x, y)) && focused.pixel(x, y) == kHighlight);
+        }
+      }
       if (whole) {
         EXPECT_EQ(ring, focused.rect());
         EXPECT_EQ(FrameOf(idle, idle.pixel(0, 0)), program.Thickness(1));

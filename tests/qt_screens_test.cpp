@@ -9,6 +9,35 @@ TEST(QtScreens, ThePrimaryOneIsCoveredWhereverItStands) {
   EXPECT_EQ(program.frame->frameGeometry(), right.place);
 }
 
+// A quarter of a screen's width is too little for the rows under the sketch at their full size.
+TEST(QtScreens, ANarrowOneShowsEverything) {
+  Running program({{{0, 0, 600, 1024}}});
+  program.Action("campyles").trigger();
+  const auto& area = *program.frame->findChild<QScrollArea*>();
+  EXPECT_LE(area.widget()->minimumWidth(), 600 - 10);  // a window manager's frame
+  EXPECT_GT(area.widget()->minimumWidth(), 600 - 20);
+  EXPECT_FALSE(area.horizontalScrollBar()->isVisible());
+  EXPECT_FALSE(area.verticalScrollBar()->isVisible());
+}
+
+TEST(QtScreens, TheWindowStandsWhereTheProgramPutsIt) {
+  Running program;
+  app::firststep& window = *program.window;
+  const auto at = [&](int left, int top, int width, int height) {
+    window.Left = static_cast<float>(15 * left);
+    window.Top = static_cast<float>(15 * top);
+    window.Width = static_cast<float>(15 * width);
+    window.Height = static_cast<float>(15 * height);
+    const QRect want(left, top, width, height);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return program.frame->frameGeometry() == want; }))
+        << left << ' ' << top << ' ' << width << ' ' << height;
+  };
+  at(30, 50, 1366, 768);
+  at(20, 10, 1366, 700);
+  at(20, 10, 1300, 768);
+  at(0, 0, 1366, 768);
+}
+
 TEST(QtScreens, ASmallerWindowScrollsAndALargerOneIsWhole) {
   OnEachScreen([](Running& program) {
     program.Action("campyles").trigger();
