@@ -23,19 +23,18 @@ TEST(QtScreens, ANarrowOneShowsEverything) {
 TEST(QtScreens, TheWindowStandsWhereTheProgramPutsIt) {
   Running program;
   app::firststep& window = *program.window;
-  const auto at = [&](int left, int top, int width, int height) {
-    window.Left = static_cast<float>(15 * left);
-    window.Top = static_cast<float>(15 * top);
-    window.Width = static_cast<float>(15 * width);
-    window.Height = static_cast<float>(15 * height);
-    const QRect want(left, top, width, height);
+  const auto expect = [&](const QRect& want) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return program.frame->frameGeometry() == want; }))
-        << left << ' ' << top << ' ' << width << ' ' << height;
+        << program.frame->width() << " x " << program.frame->height();
   };
-  at(30, 50, 1366, 768);
-  at(20, 10, 1366, 700);
-  at(20, 10, 1300, 768);
-  at(0, 0, 1366, 768);
+  window.Left = 450.0F;
+  window.Top = 750.0F;
+  expect(program.screen.place.translated(30, 50));
+  window.Height = 10500.0F;
+  const int told = 1366 - 10;  // the screen's width without a frame's sides
+  expect({30, 50, told, 700});
+  window.Width = 19500.0F;
+  expect({30, 50, 1300, 700});
 }
 
 TEST(QtScreens, ASmallerWindowScrollsAndALargerOneIsWhole) {

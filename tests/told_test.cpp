@@ -34,6 +34,10 @@ TEST(Told, InTheseWords) {
     add(way.name, p.window->Text1.Text);
     add(way.name, p.window->eikona.Description);
   }
+  Program trough;
+  trough.window->DYNAMEISDIAFORES.UserClick();
+  trough.Release(18, -2);
+  add("point in a trough", trough.window->eikona.Description);
   std::ifstream known(FIRSTSTEP_WORDS);
   for (const std::string& now : words) {
     std::string then;
