@@ -36,7 +36,7 @@ void UpdateLabels(window::Controls& firststep, int interval) {
 }
 
 // Tells those who do not see the sketch what the step has added to it.
-void Announce(window::Controls& firststep, bool left) {
+void Announce(window::Controls& firststep, bool leaves) {
   const window::Module1& module = firststep.module;
   const std::string& label = module.labels.texts.back();
   const double x = module.previous.place.x;
@@ -44,7 +44,7 @@ void Announce(window::Controls& firststep, bool left) {
   if (seen && module.StepCount % module.labels.interval == 0 && !label.empty()) {
     firststep.eikona.Announce(label);
   }
-  if (left) firststep.eikona.Announce("The run has ended: the body has left the sketch");
+  if (leaves) firststep.eikona.Announce("The run has ended: the body has left the sketch");
   if (module.StepCount == window::PathRecords::kLastStep) {
     firststep.eikona.Announce("The run has ended: the records are full");
   }
@@ -111,7 +111,7 @@ void StepTimeEvolution(window::Controls& firststep) {
 
   const bool left = body.place.x > kEnd;
   if (left || module.StepCount == window::PathRecords::kLastStep) firststep.Timer1.Enabled = false;
-  Announce(firststep, left);
+  Announce(firststep, left && path.PathX[n - 1] <= kEnd);
 }
 
 }  // namespace evolution

@@ -92,6 +92,7 @@ TEST(Told, WhatARunAddsToThePicture) {
   p.window->Command1.UserClick();
   while (p.window->Timer1.Enabled) p.desktop.Tick();
   const char* const left = "The run has ended: the body has left the sketch";
+  p.window->VIMA.UserClick();
   EXPECT_EQ(said, (Texts{"Ds =3.23 t =3.00", "Ds = 1.14 X3.23 t = 6.00", left}));
 
   said.clear();

@@ -8,7 +8,8 @@ namespace {
 using toolkit::Room;
 using toolkit::Size;
 
-constexpr Room kRoom{.share = 0.75, .beside = 273.0, .under = 115.0, .narrowest = 716.0};
+constexpr Room kRoom{
+    .share = 0.75, .beside = 273.0, .under = 115.0, .narrowest = 716.0, .lowest = 465.0};
 
 // Letters of 8.25 points are 11 of the program's pixels high.
 TEST(PageFor, IsNeverSoSmallThatLettersAreIllegible) {
@@ -21,8 +22,17 @@ TEST(PageFor, IsNeverSoSmallThatLettersAreIllegible) {
   }
 }
 
+// The text box beside the picture ends above the row of scroll bars.
+TEST(PageFor, KeepsTheExplanationOffTheRows) {
+  for (double height = 100; height < 1000; height += 10) {
+    const toolkit::View view = toolkit::ViewOf(toolkit::PageFor({1366, height}, kRoom), 0.0, kRoom);
+    const Program p(1366, static_cast<int>(std::ceil(view.screen.height)));
+    EXPECT_LE(p.window->Text1.Bottom(), p.window->platosvalue.Top) << height;
+  }
+}
+
 TEST(PageFor, IsWhatIsSeenWhereThatIsEnough) {
-  for (const Size seen : {Size{640, 480}, Size{844, 390}, Size{768, 1024}, Size{3840, 2160}}) {
+  for (const Size seen : {Size{640, 480}, Size{844, 434}, Size{768, 1024}, Size{3840, 2160}}) {
     const Size page = toolkit::PageFor(seen, kRoom);
     EXPECT_EQ(page.width, seen.width);
     EXPECT_EQ(page.height, seen.height);

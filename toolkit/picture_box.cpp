@@ -50,7 +50,13 @@ void PictureBox::UserMouseCancel() {
 }
 
 bool PictureBox::UserKeyDown(const KeyEvent& key) {
-  if (key.code == KeyCode::Shift && !key.repeated) ++shiftKeys_;
+  if (key.code == KeyCode::Shift) {
+    if (!key.repeated) ++shiftKeys_;
+  } else if (shiftKeys_ > 0 && (key.shift & kShiftMask) == 0) {
+    // It was let go unheard, as two SHIFT keys at once on some systems.
+    shiftKeys_ = 0;
+    UserKey(Key::ShiftReleased, key.shift);
+  }
   const std::optional<Key> meaning = MeaningOf(key.code);
   if (!meaning) return false;
   if (*meaning != Key::Pick || !key.repeated) UserKey(*meaning, key.shift);

@@ -1,7 +1,7 @@
 #include "toolkit/scroll_bar.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <cmath>
 
 namespace toolkit {
 
@@ -28,13 +28,13 @@ bool ScrollBar::UserKey(KeyCode key) {
   return true;
 }
 
-void ScrollBar::UserWheel(int x, int y) {
+void ScrollBar::UserWheel(double x, double y) {
   // No hand turns further at once; a driver may say anything.
-  constexpr int kFarthest = 1000 * kWheelNotch;
-  x = std::clamp(x, -kFarthest, kFarthest);
-  y = std::clamp(y, -kFarthest, kFarthest);
-  wheel_ += std::abs(x) > std::abs(y) ? x : y;
-  const int notches = wheel_ / kWheelNotch;
+  constexpr double kFarthest = 1000.0 * kWheelNotch;
+  const double turned = std::abs(x) > std::abs(y) ? x : y;
+  if (std::isnan(turned)) return;
+  wheel_ += std::clamp(turned, -kFarthest, kFarthest);
+  const int notches = static_cast<int>(wheel_ / kWheelNotch);
   wheel_ -= notches * kWheelNotch;
   if (notches != 0) UserMove(-notches * SmallChange);
 }

@@ -68,7 +68,7 @@ class ScrollBar : public Control {
   // The wheel over the bar, turned by parts of kWheelNotch along either axis. One notch is one
   // small change, as the values are few and each has its own picture; parts of a notch add up.
   // Turned away from the user, or to the left, the value goes back.
-  void UserWheel(int x, int y);
+  void UserWheel(double x, double y);
   void Accept(ControlVisitor& visitor) override { visitor.Visit(*this); }
 
  private:
@@ -76,7 +76,7 @@ class ScrollBar : public Control {
     Events().Deliver([this, by] { Value = Value + by; });
   }
 
-  int wheel_ = 0;  // what has been turned since the last whole notch
+  double wheel_ = 0.0;  // what has been turned since the last whole notch
 };
 
 }  // namespace toolkit

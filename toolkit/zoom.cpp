@@ -19,7 +19,8 @@ Size AtLeastOne(Size size) {
 View ViewOf(Size free, double title, const Room& room) {
   free = AtLeastOne(free);
   const double rest = (1.0 - room.share) * free.height - title;
-  const double fits = std::min(rest / (room.under + kMenuHeight), free.width / room.narrowest);
+  const double fits = std::min({rest / (room.under + kMenuHeight), free.width / room.narrowest,
+                                room.share * free.height / room.lowest});
   // How much larger than 1 it may be: by the height, and on a narrow screen by the width that goes
   // with that height.
   const double byWidth = free.width / (room.beside + room.share * kTallest);
@@ -42,7 +43,8 @@ Size PageFor(Size seen, const Room& room) {
   // Letters of 8.25 points are then some 8 pixels high.
   constexpr double kLeast = 0.7;
   return {std::max(seen.width, kLeast * room.narrowest),
-          std::max(seen.height, kLeast * (room.under + kMenuHeight) / (1.0 - room.share))};
+          std::max({seen.height, kLeast * room.lowest / room.share,
+                    kLeast * (room.under + kMenuHeight) / (1.0 - room.share)})};
 }
 
 Size Extents(const std::vector<Control*>& controls) {

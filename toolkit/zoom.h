@@ -20,6 +20,7 @@ struct Room {
   double beside;     // what stands left and right of the picture
   double under;      // what stands above and under it
   double narrowest;  // the least width that the controls under it need
+  double lowest;     // the least height of the picture beside what stands there
 };
 
 // The menu bar's height, in the program's pixels.

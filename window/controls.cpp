@@ -11,10 +11,13 @@ namespace window {
 namespace {
 
 // What the layout places around the sketch, in pixels: to its left 48 and to its right the text
-// box; above it 16 and under it three rows of 33; and the row of scroll bars, whose right end lies
-// 494.5 to the right of the sketch's half.
-constexpr toolkit::Room kAroundSketch{
-    .share = 0.75, .beside = 48.0 + 225.0, .under = 16.0 + 99.0, .narrowest = 716.0};
+// box, 465 high; above it 16 and under it three rows of 33; and the row of scroll bars, whose right
+// end lies 494.5 to the right of the sketch's half.
+constexpr toolkit::Room kAroundSketch{.share = 0.75,
+                                      .beside = 48.0 + 225.0,
+                                      .under = 16.0 + 99.0,
+                                      .narrowest = 716.0,
+                                      .lowest = 465.0};
 
 // The number behind a label's "=".
 std::string NumberOf(const toolkit::Label& label) {

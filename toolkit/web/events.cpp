@@ -44,7 +44,9 @@ struct Events {
   }
   TO_PAGE("BarStep") static void BarStep(int at, int way) { Of<ScrollBar>(at).UserStep(way); }
   TO_PAGE("BarPage") static void BarPage(int at, int way) { Of<ScrollBar>(at).UserPage(way); }
-  TO_PAGE("BarWheel") static void Wheel(int at, int x, int y) { Of<ScrollBar>(at).UserWheel(x, y); }
+  TO_PAGE("BarWheel") static void Wheel(int at, double x, double y) {
+    Of<ScrollBar>(at).UserWheel(x, y);
+  }
 
   // Room for a text in UTF-8, which TextEdit then takes.
   TO_PAGE("TextRoom") static char* TextRoom(int bytes) {
