@@ -84,7 +84,10 @@ export const forProgram = {
     if (setters[what]) setters[what](element, value);
     else if (value === null) element.removeAttribute(what);
     else element.setAttribute(what, value);
-    if (what === 'hidden') options.hidden = !options.querySelector(':not([hidden])');
+    if (what === 'hidden') {
+      options.hidden = !options.querySelector(':not([hidden])');
+      fitLater(element); // while it was hidden, it could not be measured
+    }
   },
   // A bar that stands upright is one that lies, turned by a quarter: so it is in every browser.
   Place(at, left, top, width, height, letters) {
@@ -111,7 +114,12 @@ function ownerOf({ target }) {
   return element;
 }
 
+// What a key does together with these belongs to the browser: Alt and an arrow lead back a page.
+const isBrowsers = ({ altKey, ctrlKey, metaKey, target }) =>
+  altKey || metaKey || (ctrlKey && target.kind === 'Bar');
+
 function hearKey(event) {
+  if (event.type === 'keydown' && isBrowsers(event)) return;
   const place = kKeys.indexOf(event.key);
   const code = place < 0 ? kKeys.length : place;
   const what = event.type === 'keyup' ? 'KeyUp' : 'Key';

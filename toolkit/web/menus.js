@@ -98,7 +98,8 @@ function pressItem(event) {
 
 function pressAnywhere(event) {
   const named = event.altKey && !event.ctrlKey && byLetter(rowOf(null), event.key);
-  if (event.key !== 'F10' && !named) return;
+  const plain = !event.altKey && !event.ctrlKey && !event.metaKey && !event.shiftKey;
+  if (!named && !(event.key === 'F10' && plain)) return;
   event.preventDefault();
   if (named) choose(named);
   else if (menubar.contains(document.activeElement)) leave();

@@ -9,6 +9,7 @@ const kAtOnce = 50; // milliseconds; nobody reads a message and closes it so fas
 const life = new AbortController(); // ends with the program
 const { signal } = life;
 const root = document.documentElement;
+const message = document.getElementById('message');
 const unable = document.getElementById('unable');
 let resized = false;
 
@@ -33,26 +34,27 @@ const pageForProgram = {
     root.style.setProperty('--zoom', zoom);
     root.style.setProperty('--menu', `${menuHeight}px`);
   },
-  // In a frame that may not open boxes, alert returns at once, without a word. Then the text stands
-  // on the page.
+  // Where boxes may not be opened, as in some frames, alert returns at once, without a word. Then
+  // the text stands on the page until the next press.
   ShowMessage(textFrom) {
     const text = textAt(textFrom);
     paint();
     const opened = performance.now();
     alert(text);
-    if (window.self === window.top || performance.now() - opened > kAtOnce) return;
-    const message = document.getElementById('message');
+    if (performance.now() - opened > kAtOnce) return;
     message.textContent = text;
     message.hidden = false;
     announce(text);
+    document.addEventListener('pointerdown', () => { message.hidden = true; }, { once: true });
   },
   Now: () => performance.now(),
   End() {
     life.abort();
     stop();
     const how = 'The program has ended. To begin again, load this page once more.';
-    document.querySelector('main').replaceChildren(document.querySelector('h1'),
-      make('p', { id: 'ended', role: 'status' }, how));
+    const ended = make('p', { id: 'ended', tabindex: -1 }, how);
+    document.querySelector('main').replaceChildren(document.querySelector('h1'), ended);
+    ended.focus(); // so that it is heard
   },
 };
 

@@ -1,6 +1,7 @@
 // The sketch: the picture that the program has drawn, the letters on it, the pointer over it.
 import { program, shiftOf, tell, textAt, wake } from './program.js';
-import { make, shift } from './texts.js';
+import { hearShift, isShiftDown, useShift } from './shift.js';
+import { keepFromBrowser, make } from './texts.js';
 
 const kButtons = [1, 2, 4, 8, 16]; // left, right, middle, ..., for pointers and the program alike
 const kCursors = ['default', 'crosshair', 'pointer', 'grabbing']; // in the program's order
@@ -11,6 +12,7 @@ const pen = make('canvas').getContext('2d', { willReadFrequently: true });
 let stale = true;
 let focused = false;
 let held = 0; // the buttons that were pressed here
+let holder = null; // the pointer that has pressed them; others are not heard meanwhile
 let place = null; // of the pointer over the picture
 
 export function paint() {
@@ -51,9 +53,9 @@ function drawLetters(textFrom, size, colour) {
 }
 
 // All that pointers do comes here. A button of the mouse that is pressed or let go while another
-// one is held comes as a move. Only the first finger counts.
+// one is held comes as a move.
 function follow(event) {
-  if (!event.isPrimary) return;
+  if (holder !== null && event.pointerId !== holder) return;
   const box = canvas.getBoundingClientRect();
   const scale = canvas.width / box.width;
   place = [(event.clientX - box.left) * scale, (event.clientY - box.top) * scale];
@@ -61,27 +63,26 @@ function follow(event) {
   const moves = event.type === 'pointermove';
   const now = moves && held === 0 ? 0 : event.buttons;
   for (const button of kButtons.filter((one) => (now ^ held) & one)) {
-    const stuck = shift.getAttribute('aria-pressed') === 'true';
-    const bits = shiftOf(event) | (stuck ? 1 : 0);
+    const bits = shiftOf(event) | isShiftDown();
     tell(canvas, now & button ? 'Press' : 'Release', button, bits, ...place);
-    if (!(now & button)) shift.setAttribute('aria-pressed', 'false');
+    if (!(now & button)) useShift();
   }
   if (now && !held) canvas.setPointerCapture(event.pointerId);
   held = now;
+  holder = now ? event.pointerId : null;
 }
 
-function cancel({ isPrimary }) {
-  if (!isPrimary || !held) return;
+function cancel({ pointerId }) {
+  if (pointerId !== holder) return;
   held = 0;
+  holder = null;
   tell(canvas, 'Cancel');
 }
 
 export function makeSketch() {
   const hear = (type, listener) => canvas.addEventListener(type, listener, { passive: false });
   // A press leaves the keyboard where it is, and neither scrolls nor opens anything.
-  for (const type of ['mousedown', 'touchstart', 'contextmenu']) {
-    hear(type, (event) => event.preventDefault());
-  }
+  for (const type of ['mousedown', 'touchstart', 'contextmenu']) hear(type, keepFromBrowser);
   for (const type of ['pointerdown', 'pointermove', 'pointerup']) hear(type, follow);
   hear('pointercancel', cancel);
   hear('pointerleave', () => { place = null; });
@@ -92,9 +93,7 @@ export function makeSketch() {
   };
   hear('focus', focus(true));
   hear('blur', focus(false));
-  shift.addEventListener('click', () => {
-    shift.setAttribute('aria-pressed', shift.getAttribute('aria-pressed') !== 'true');
-  });
+  hearShift();
   return canvas;
 }
 

@@ -4,7 +4,6 @@ import { duties } from './program.js';
 const kLeastShare = 0.6; // letters are never made smaller than this share of their size
 export const shell = document.getElementById('shell');
 export const client = document.getElementById('client');
-export const shift = document.getElementById('SHIFT');
 const live = document.getElementById('live');
 const changed = new Set(); // elements with another text or another size
 let speaking = false; // since the last animation frame
@@ -14,6 +13,11 @@ export function make(tag, attributes = {}, ...inside) {
   for (const [name, value] of Object.entries(attributes)) element.setAttribute(name, value);
   element.append(...inside);
   return element;
+}
+
+// The browser does nothing of its own with a press. Two fingers it may take for a pinch.
+export function keepFromBrowser(event) {
+  if (event.cancelable && !(event.touches?.length > 1)) event.preventDefault();
 }
 
 export function fitLater(element) { changed.add(element); }

@@ -1,0 +1,38 @@
+// The SHIFT button, for hands without a keyboard: once tapped, it stays down until the next release
+// on the sketch; or it is held by one finger while another one pulls.
+import { keepFromBrowser } from './texts.js';
+
+const button = document.getElementById('SHIFT');
+let finger = null; // the pointer on it
+let lets = false; // it will be up when that finger leaves it
+let tapped = false; // the click that comes now is that finger's
+
+export const isShiftDown = () => button.getAttribute('aria-pressed') === 'true';
+const press = (yes) => button.setAttribute('aria-pressed', yes);
+
+// Something was let go on the sketch.
+export function useShift() {
+  if (finger === null) press(false);
+  else lets = true;
+}
+
+export function hearShift() {
+  button.addEventListener('pointerdown', ({ pointerId }) => {
+    button.setPointerCapture(pointerId);
+    [finger, lets, tapped] = [pointerId, isShiftDown(), false];
+    press(true);
+  });
+  const leave = ({ pointerId, type }) => {
+    if (pointerId !== finger) return;
+    [finger, tapped] = [null, type === 'pointerup'];
+    if (lets) press(false);
+  };
+  button.addEventListener('pointerup', leave);
+  button.addEventListener('pointercancel', leave);
+  // A keyboard, a switch or a voice clicks without a finger.
+  button.addEventListener('click', () => {
+    if (!tapped) press(!isShiftDown());
+    tapped = false;
+  });
+  button.addEventListener('contextmenu', keepFromBrowser);
+}
