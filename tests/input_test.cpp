@@ -26,6 +26,51 @@ TEST(ScrollBar, KeysMoveIt) {
   }
 }
 
+// Of one pixel for each value, from 10 to 300: 14 of an arrow, 290 to go, 12 of the thumb, 14
+// again.
+TEST(ScrollBar, APointerMovesIt) {
+  constexpr double kLength = 14 + 290 + 12 + 14;
+  constexpr double kThumb = 14 + 50 - 10;  // where it begins at a value of 50
+  const struct {
+    const char* part;
+    double place;
+    std::vector<int> values;  // one after the other while it is held
+  } presses[] = {{"arrow", 13.9, {49, 48, 47}},
+                 {"arrow at the other end", kLength - 14, {51, 52, 53}},
+                 {"before the thumb", 14, {40, 30, 20, 10}},
+                 {"just before the thumb", kThumb - 0.1, {40}},
+                 {"just behind the thumb", kThumb + 12, {60}},
+                 {"behind the thumb", kThumb + 12 + 20, {60, 70, 80}},
+                 {"thumb", kThumb, {}},
+                 {"end of the thumb", kThumb + 11.9, {}},
+                 {"nowhere", NAN, {}}};
+  Program p;
+  toolkit::ScrollBar& bar = p.window->vimatimi;
+  for (const auto& [part, place, values] : presses) {
+    for (const double pixel : {0.5, 1.0, 2.0}) {
+      SCOPED_TRACE(testing::Message() << part << ' ' << pixel);
+      bar.UserScroll(50);
+      bool goesOn = bar.Pointer.Press(place * pixel, kLength * pixel, pixel);
+      for (const int value : values) {
+        EXPECT_TRUE(goesOn);
+        EXPECT_EQ(bar.Value, value);
+        goesOn = bar.Pointer.Again();
+      }
+      EXPECT_EQ(goesOn, values.size() == 3 && std::string(part).starts_with("arrow"));
+      bar.UserScroll(50);
+      const bool gripped = values.empty() && place == place;
+      for (const auto& [by, value] : {std::pair(7.4, 57), {-999.0, 10}, {1e300, 300}, {NAN, 300}}) {
+        bar.Pointer.Drag((place + by) * pixel);
+        EXPECT_EQ(bar.Value, gripped ? value : 50);
+      }
+    }
+  }
+  bar.UserScroll(50);
+  bar.Pointer.Press(10, 20, 1);  // too short a bar for its thumb
+  bar.Pointer.Drag(15);
+  EXPECT_EQ(bar.Value, 49);
+}
+
 // Notch after notch; what is left of one is kept. The axis that is turned further counts.
 TEST(ScrollBar, TheWheelMovesItByNotches) {
   const double turns[][3] = {{0, 120, 49},   {0, -120, 50},     {0, -60, 50},       {0, -60, 51},

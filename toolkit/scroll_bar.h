@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "toolkit/bar_press.h"
 #include "toolkit/controls.h"
 #include "toolkit/keys.h"
 
@@ -51,6 +52,7 @@ class ScrollBar : public Control {
   const std::int16_t Min, Max, SmallChange, LargeChange;
   const double Unit;
   ValueProperty Value;
+  BarPress Pointer{*this};
   std::function<void()> Change;
   std::function<std::string()> Told;  // the value as the window writes it, for those who hear it
 

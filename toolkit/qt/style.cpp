@@ -8,15 +8,12 @@
 
 #include <algorithm>
 
+#include "toolkit/bar_press.h"
 #include "toolkit/lengths.h"
+#include "toolkit/zoom.h"
 
 namespace toolkit::qt {
 namespace {
-
-// Short thumbs leave the short scroll bars of the layout some way to go.
-constexpr int kShortestThumb = 12;
-
-constexpr float kMenuPoints = 9.0F;
 
 constexpr const char* kZoom = "zoom";
 
@@ -30,7 +27,7 @@ class Style : public QProxyStyle {
   int pixelMetric(PixelMetric metric, const QStyleOption* option,
                   const QWidget* widget) const override {
     const int own = metric == PM_ScrollBarSliderMin
-                        ? kShortestThumb
+                        ? static_cast<int>(kBarThumb)
                         : QProxyStyle::pixelMetric(metric, option, widget);
     switch (metric) {
       case PM_ScrollBarSliderMin:

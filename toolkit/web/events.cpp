@@ -42,8 +42,13 @@ struct Events {
     Of<ScrollBar>(at).UserScroll(value);
     Of<ScrollBar>(at).Changed();  // the browser has moved the thumb, the program may have not
   }
-  TO_PAGE("BarStep") static void BarStep(int at, int way) { Of<ScrollBar>(at).UserStep(way); }
-  TO_PAGE("BarPage") static void BarPage(int at, int way) { Of<ScrollBar>(at).UserPage(way); }
+  TO_PAGE("BarPress") static bool BarPress(int at, double place, double length, double pixel) {
+    return Of<ScrollBar>(at).Pointer.Press(place, length, pixel);
+  }
+  TO_PAGE("BarHeld") static bool Held(int at) { return Of<ScrollBar>(at).Pointer.Again(); }
+  TO_PAGE("BarDrag") static void Drag(int at, double place) {
+    Of<ScrollBar>(at).Pointer.Drag(place);
+  }
   TO_PAGE("BarWheel") static void Wheel(int at, double x, double y) {
     Of<ScrollBar>(at).UserWheel(x, y);
   }
