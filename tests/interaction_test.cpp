@@ -32,12 +32,16 @@ struct Picked : Motion {
       if (guessing) Legend(kFriction, 3, {0.2, 9.3}, {2, 9.8}, "FRICTION");
       Legend(kRed, 1, {14, -9.1}, {15, -9.1}, "VELOCITY");
       Legend(kBlue, 1, {14, -8.1}, {15, -8.1}, "ACCELERATION");
-      const Vector velocity(window->module.VelocityX, window->module.VelocityY);
-      EXPECT_LT(std::abs(velocity - v * tangent), 1e-5 * (1 + v));
+      ExpectVelocity();
       EXPECT_TRUE(window->Text1.Text.Get().starts_with(guessing ? "Click on" : "The centri"));
     }
     Look();
     y += off;
+  }
+
+  void ExpectVelocity() {
+    const Vector velocity(window->module.VelocityX, window->module.VelocityY);
+    EXPECT_LT(std::abs(velocity - v * tangent), 1e-5 * (1 + v));
   }
 
   // Pulls a force, by its parts along the track and to its left, and looks at the judgement.
@@ -46,6 +50,7 @@ struct Picked : Motion {
     const Vector tip = Vector(x, y) + Vector(along, left) * tangent;
     Release(tip.real(), tip.imag(), shift, button);
     if (arrives && shift == 1) ExpectJudgement(along, left);
+    if (arrives) ExpectVelocity();
     EXPECT_EQ(Count(Kind::Clear), 0);
     Look();
   }

@@ -91,6 +91,8 @@ TEST(KeyboardOnTheSketch, PointsAtTheTrack) {
   EXPECT_EQ(k.said, "x = 6.0, y = 2.0");
   k.window->platosvalue.UserScroll(30);
   EXPECT_NEAR(k.eikona.KeyPointer.Get()->y, 3, 1e-12);
+  k.Pull(-3, 2);
+  EXPECT_EQ(k.said, "Force x = -0.75, y = 0.50");
   k.Pull(-400, 400);
   EXPECT_EQ(k.said, "Force x = -46.00, y = 37.00");
 }

@@ -46,6 +46,23 @@ TEST(Pictures, AreTheSameOnEveryMachine) {
   }
 }
 
+// A run leaves out dots that would change no pixel; with all of them the picture is the same.
+TEST(Pictures, OfARunHaveEveryDot) {
+  for (const double density : {1.0, 1.5, 2.0}) {
+    Program program;
+    program.Paint(density);
+    program.Scroll({35, 40, 0, 1, 300});
+    program.window->Option2.UserClick();
+    Step(program, 900);
+    const std::string shown = Shown(program);
+    const window::PathRecords& path = program.window->module.path;
+    for (int i = 50; i < 850; ++i) {  // the ends have red marks
+      program.window->eikona.PSet(path.PathX[i], path.PathY[i]);
+    }
+    EXPECT_EQ(Shown(program), shown) << density;
+  }
+}
+
 // Drawn at one density and shown at another, as after a move to another screen; and what is drawn
 // over it afterwards is as if it had always been there.
 TEST(Pictures, AreAsSharpAfterAChangeOfDensity) {

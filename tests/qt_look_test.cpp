@@ -48,15 +48,36 @@ TEST(QtLook, WhatHasTheKeyboardIsFramed) {
         EXPECT_LT(qGray(idle.pixel(0, 0)), 200);
       }
     }
-    // The item of the menu bar to which the keyboard has come.
-    const QMenuBar& bar = *program.frame->findChild<QMenuBar*>();
+    // The item of the menu bar to which the keyboard has come. A line is under all of them.
+    QMenuBar& bar = *program.frame->findChild<QMenuBar*>();
     const QRect first = bar.actionGeometry(bar.actions().first());
+    const QImage idle = program.Seen(bar);
+    const auto line = [](QRgb at) { return qGray(at) > 205 && qGray(at) < 225; };
+    EXPECT_EQ(PartOf(idle.copy(0, idle.height() - 3, idle.width(), 3), line).width(), idle.width());
     program.Press(Qt::Key_F10);
     const QImage seen = program.Seen(*program.frame);
     const QRect item = PartOf(seen, [](QRgb at) { return at == kHighlight; });
     EXPECT_EQ(FrameOf(seen.copy(item), kHighlight), program.Thickness(1));
     EXPECT_NEAR(item.width(), first.width() * program.screen.ratio, 1);
   });
+}
+
+// Their arrows are triangles in the middle.
+TEST_F(QtWindow, BarsHaveArrowsThatPoint) {
+  const auto arrow = [&](const char* name, bool last) {
+    const QImage seen = Seen(Find(name));
+    const int side = std::min(seen.width(), seen.height());
+    constexpr int kLength = 12;  // of the arrow's box without its frame
+    const QRect end = seen.width() < seen.height() ? QRect(1, 1, side - 2, kLength)
+                                                   : QRect(1, 1, kLength, side - 2);
+    const QPoint other = seen.rect().bottomRight() - end.bottomRight() - QPoint(1, 1);
+    return PartOf(seen.copy(last ? end.translated(other) : end), Dark);
+  };
+  for (const bool last : {false, true}) {
+    const QRect across = arrow("syxnotikamp", last), upright = arrow("platosvalue", last);
+    EXPECT_GT(across.height(), across.width()) << last;
+    EXPECT_GT(upright.width(), upright.height()) << last;
+  }
 }
 
 // Also where the sketch begins between two of the screen's pixels.

@@ -177,7 +177,9 @@ TEST_F(QtWindow, EventsWaitForTheMessageBoxAndNothingRunsAfterTheEnd) {
     desktop->ShowMessage("too late"), QTest::qWait(60), log += "ended";
   };
   Click("VIMA");
-  EXPECT_TRUE(desktop->Run() == 0 && log == "closed option ended" && !frame->isVisible()) << log;
+  EXPECT_TRUE(desktop->Run() == 0 && log == "closed option ended") << log;
+  window->Left = 15.0F;
+  EXPECT_FALSE(frame->isVisible());
 }
 
 // Counts how often a timer of the toolkit wakes the program.

@@ -181,11 +181,23 @@ TEST(Raster, KeyboardsPointerStandsOverThePicture) {
   EXPECT_LT(toolkit::PointerShape({{0, 0}, Point{1e30, 0}}, 1).size(), 3000U);
 }
 
+// What shows the canvas hears once of any number of changes, until it has looked.
+TEST(Raster, TellsOfAChangeOnce) {
+  int told = 0;
+  toolkit::raster::RasterCanvas canvas(kPacking, letters, [&] { ++told; });
+  for (int look = 1; look <= 3; ++look) {
+    canvas.Clear(kWhite);
+    canvas.Line({0, 0}, {1, 1}, {kRed, 1});
+    EXPECT_EQ(told, look);
+    canvas.Look();
+  }
+}
+
 TEST(Raster, StretchesWhatNobodyCanDrawAgain) {
-  Sheet sheet(60, 1.0);
+  Sheet sheet(60, 50, 1.0);
   for (const double y : {30.0, 31.0}) sheet.Line({10, y}, {50, y}, {kRed, 3});
-  EXPECT_FALSE(sheet.Resize({60, 60}, 1.0, true));
-  EXPECT_TRUE(sheet.Resize({120, 120}, 2.0, true));
+  EXPECT_FALSE(sheet.Resize({60, 50}, 1.0, true));
+  EXPECT_TRUE(sheet.Resize({120, 100}, 2.0, true));
   sheet.Line({20, 90.5}, {100, 90.5}, {kInk, 1});
   for (const auto& [y, want] : {std::pair(61, kRed), {89, kWhite}, {90, kInk}, {91, kInk}}) {
     EXPECT_TRUE(sheet.Shows(want, 60, y) && sheet.Shows(kWhite, 5, y)) << y;

@@ -35,7 +35,11 @@ TEST(Told, InTheseWords) {
     add(way.name, p.window->eikona.Description);
   }
   Program trough;
+  trough.window->campyles.UserClick();
+  add("choice", trough.window->eikona.Description);
   trough.window->DYNAMEISDIAFORES.UserClick();
+  add("curvature", trough.window->Text1.Text);
+  add("curvature", trough.window->eikona.Description);
   trough.Release(18, -2);
   add("point in a trough", trough.window->eikona.Description);
   std::ifstream known(FIRSTSTEP_WORDS);
