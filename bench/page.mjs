@@ -1,14 +1,14 @@
 #!/usr/bin/env node
 // Measures the page in Chromium: page.mjs [PICTURE_BENCH], the native benchmark to compare with.
-// Build the page before, and install the packages of tests/page (`./test page` does both).
+// Build the page before, and install the packages of browsers/ (`./test page` does both).
 import { execFileSync } from 'node:child_process';
 import { readFileSync, writeFileSync } from 'node:fs';
 import { createServer } from 'node:http';
 import { once } from 'node:events';
 import { brotliCompressSync, constants } from 'node:zlib';
 
-import { copyWith, kPage } from '../tests/page/copy.mjs';
-import { start } from '../tests/page/engines.mjs';
+import { Chromium } from '../browsers/bidi.mjs';
+import { copyWith, kPage } from '../browsers/copy.mjs';
 import { Program, Pointing } from '../tests/page/program.mjs';
 
 const kView = [1920, 1083]; // here the picture is 810 pixels wide, as in the native benchmark
@@ -112,7 +112,7 @@ function nativeTime(bench) {
   return JSON.parse(report).benchmarks[0].cpu_time / 1000;
 }
 
-const engine = await start('chromium');
+const engine = await new Chromium().start();
 const program = new Program();
 program.engine = engine;
 const watched = copyWith('watched', kWatch);
@@ -122,7 +122,8 @@ const rows = [];
 const page = readFileSync(kPage);
 const quality = { params: { [constants.BROTLI_PARAM_QUALITY]: 11 } };
 rows.push(['the file', `${(page.length / 1000).toFixed(1)} kB`, '160 kB']);
-rows.push(['by brotli', `${(brotliCompressSync(page, quality).length / 1000).toFixed(1)} kB`, '60 kB']);
+const packed = brotliCompressSync(page, quality);
+rows.push(['by brotli', `${(packed.length / 1000).toFixed(1)} kB`, '60 kB']);
 
 await engine.resize(...kView);
 await program.open(address);

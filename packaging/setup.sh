@@ -68,9 +68,9 @@ build() {
   cmake --build "$dir" --target "$2"
 }
 
-# Brings the npm packages of the page's tests to what their lock file names.
+# Brings the npm packages that work a browser to what their lock file names.
 need_npm() {
-  local folder=tests/page
+  local folder=browsers
   [[ $folder/node_modules/.package-lock.json -nt $folder/package-lock.json ]] ||
     npm ci --prefix "$folder" --no-audit --no-fund
 }

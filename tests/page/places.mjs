@@ -3,67 +3,65 @@ import assert from 'node:assert/strict';
 import { readFileSync } from 'node:fs';
 import { createServer } from 'node:http';
 import { once } from 'node:events';
-import { test } from 'node:test';
+import { after, before, test } from 'node:test';
 
-import { copyWith, kPage } from './copy.mjs';
+import { copyWith, kPage } from '../../browsers/copy.mjs';
 import { noise, Pointing } from './program.mjs';
 
 const frame = (sandbox) => `<!doctype html><title>a lesson</title>
   <iframe sandbox="${sandbox}" src="/page" width="1000" height="700"></iframe>`;
-const kAnswers = { '/page': readFileSync(kPage), '/frame': frame('allow-scripts'),
-  '/dead': frame('allow-same-origin') };
+const kAnswers = {
+  '/page': readFileSync(kPage),
+  '/frame': frame('allow-scripts'),
+  '/scriptless': frame('allow-same-origin'),
+};
 const kKept = `(async () => [document.cookie, localStorage.length, sessionStorage.length,
   (await indexedDB.databases()).length])()`;
 
-// A server that remembers what it was asked for.
-async function serve() {
+// What the page's own rules must stop: a picture, a script and an answer from elsewhere.
+const kIntrude = `(async () => {
+  const image = Object.assign(new Image(), { src: '/image' });
+  const script = Object.assign(document.createElement('script'), { text: 'window.broken = 1' });
+  document.body.append(image, script);
+  const refused = await fetch('/data').then(() => false, () => true);
+  return [refused, window.broken ?? 0];
+})()`;
+
+export function testPlaces(program, { emulate }) {
+  const mouse = new Pointing(program, 'mouse');
   const asked = [];
   const server = createServer(({ url }, reply) => {
     asked.push(url);
     reply.setHeader('Content-Type', 'text/html').end(kAnswers[url] ?? '');
-  }).listen(0, '127.0.0.1');
-  await once(server, 'listening');
-  return { asked, server, address: `http://127.0.0.1:${server.address().port}` };
-}
+  });
+  const at = (path) => `http://127.0.0.1:${server.address().port}${path}`;
+  before(() => once(server.listen(0, '127.0.0.1'), 'listening'));
+  after(() => server.close());
 
-export function testPlaces(program, { emulate }) {
-  const mouse = new Pointing(program, 'mouse');
-
-  test('from a file it keeps silent and asks for nothing', async () => {
+  test('from a file it keeps silent and asks for nothing, offline too', async () => {
+    if (emulate) await program.engine.offline(true);
     await program.open();
     await mouse.click('DYNAMEISDIAFORES');
-    await program.look();
+    assert.ok((await program.look()).pink > 0);
     assert.deepEqual(await noise(program.engine), []);
+    if (emulate) await program.engine.offline(false);
   });
 
   test('from a server it asks for itself alone, keeps nothing and lets nothing in', async () => {
-    const { asked, server, address } = await serve();
-    await program.open(`${address}/page`);
-    await mouse.click('DYNAMEISDIAFORES');
-    assert.deepEqual(await program.evaluate(kKept), ['', 0, 0, 0]);
-    assert.deepEqual(await program.evaluate(`(async () => {
-      const image = Object.assign(new Image(), { src: '/image' });
-      const script = Object.assign(document.createElement('script'), { text: 'window.broken = 1' });
-      document.body.append(image, script);
-      const refused = await fetch('/data').then(() => false, () => true);
-      return [refused, window.broken ?? 0];
-    })()`), [true, 0]);
-    assert.deepEqual(asked, ['/page']);
-    server.closeAllConnections();
-    server.close();
+    await program.open(at('/page'));
     await mouse.click('GUESSFORCE');
     assert.ok((await program.look()).black > 0);
+    assert.deepEqual(await program.evaluate(kKept), ['', 0, 0, 0]);
+    assert.deepEqual(await program.evaluate(kIntrude), [true, 0]);
+    assert.deepEqual(asked, ['/page']);
   });
 
   test('in a sandboxed frame it runs', async () => {
-    const { server, address } = await serve();
-    const { engine } = program;
-    await engine.open(`${address}/frame`);
-    await engine.inFrame(async () => {
-      await program.waitFor("document.getElementById('Text1')?.value.startsWith('We examine')");
+    await program.engine.open(at('/frame'));
+    await program.engine.inFrame(async () => {
+      await program.begun();
       assert.ok((await program.look()).pink > 0);
     });
-    server.close();
   });
 
   test('without what it needs it says so', async () => {
@@ -71,15 +69,9 @@ export function testPlaces(program, { emulate }) {
       await program.engine.open(copyWith(missing, `delete globalThis.${missing};`));
       await program.waitFor("document.body.innerText.includes('needs a browser')");
     }
+    await program.engine.open(at('/scriptless'));
+    await program.waitFor("frames[0].document.body.innerText.includes('JavaScript is switched')");
     await program.open();
     assert.doesNotMatch(await program.evaluate('document.body.textContent'), /needs a browser/);
-  });
-
-  test('offline it runs', { skip: !emulate }, async () => {
-    await program.engine.offline(true);
-    await program.open();
-    await mouse.click('DYNAMEISDIAFORES');
-    assert.ok((await program.look()).pink > 0);
-    await program.engine.offline(false);
   });
 }

@@ -1,5 +1,5 @@
-// What the tests of all backends share: what each handler does (cases.txt), and the pictures' hashes
-// (pictures.txt).
+// What the tests of all backends share: what each handler does (cases.txt), and the pictures'
+// hashes (pictures.txt).
 import { readFileSync } from 'node:fs';
 
 const lines = (name) =>
@@ -24,10 +24,11 @@ export function readCases() {
       const [name, value] = property(line);
       block[name] = value;
     } else if (line.startsWith('handler')) {
-      const [, name, way, value, when] =
+      const [, name, way, value, condition] =
         /^handler (\w+) (\w+)(?: to (\d+))?(?: when (.*))?$/.exec(line);
+      const when = condition && property(condition);
       block = {};
-      handlers.push({ name, way, value: Number(value), when: when && property(when), effect: block });
+      handlers.push({ name, way, value: Number(value), when, effect: block });
     }
   }
   return { opening, handlers };

@@ -1,13 +1,11 @@
 // Copies of the page for tests that must be there before the page's own script.
 import { createHash } from 'node:crypto';
-import { mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
-import { tmpdir } from 'node:os';
+import { readFileSync, writeFileSync } from 'node:fs';
 import { pathToFileURL } from 'node:url';
 
-export const kPage = new URL('../../build/page/firststep.html', import.meta.url);
+import { folder } from './scratch.mjs';
 
-const folder = mkdtempSync(`${tmpdir()}/page-`);
-process.on('exit', () => rmSync(folder, { recursive: true }));
+export const kPage = new URL('../build/page/firststep.html', import.meta.url);
 
 // The address of a copy in which a script runs first. The page's policy is made to allow it; all
 // else is as it was.

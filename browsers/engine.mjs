@@ -1,5 +1,6 @@
-// The words by which the tests use a browser, the same for all three engines. What an engine brings
-// itself stands in bidi.mjs and webkit.mjs: open, evaluate, resize, act, accessible and so on.
+// The words by which a browser is used, the same for all three engines. What an engine brings
+// itself stands in bidi.mjs and webkit.mjs: open, evaluate, resize, act, accessible and so on. What
+// it or its driver can't do is in its `limits`, and a test asks there.
 import { setTimeout as pause } from 'node:timers/promises';
 
 const kPatience = 30000; // milliseconds
@@ -21,22 +22,12 @@ export const device = (type, id, actions, pointerType) =>
   ({ type, id, actions, ...(pointerType && { parameters: { pointerType } }) });
 
 export class Engine {
-  whileDialog = () => {}; // called while the next message box is open
-
   // Until the expression, or what the function gives, is true.
   async waitFor(what) {
     const holds = typeof what === 'string' ? () => this.evaluate(what) : what;
     for (const end = Date.now() + kPatience; !(await holds()); await pause(10)) {
       if (Date.now() > end) throw new Error(`waited in vain for ${what}`);
     }
-  }
-
-  async answer(text, accept) {
-    this.dialogs.push(text);
-    const action = this.whileDialog;
-    this.whileDialog = () => {};
-    await action();
-    await accept();
   }
 
   // Types are keyDown and keyUp, one or several after each other.
@@ -74,9 +65,15 @@ export class Engine {
     return { scripts: 0, program: await this.evaluate('memoryOfProgram.buffer.byteLength') };
   }
 
-  // The middle of the element, as a place to point at.
-  middle(id) {
-    return this.evaluate(`(({ x, y, width, height }) => [x + width / 2, y + height / 2])(
+  // Where the element is on what is to be seen.
+  box(id) {
+    return this.evaluate(`(({ x, y, width, height }) => ({ x, y, width, height }))(
       document.getElementById('${id}').getBoundingClientRect())`);
+  }
+
+  // The middle of the element, as a place to point at.
+  async middle(id) {
+    const { x, y, width, height } = await this.box(id);
+    return [x + width / 2, y + height / 2];
   }
 }

@@ -1,4 +1,4 @@
-// What the linter asks of the page's scripts and of their tests.
+// What the linter asks of the page's scripts and of all that works a browser.
 import js from '@eslint/js';
 
 const strict = { curly: ['error', 'multi-line'], eqeqeq: 'error', 'no-shadow': 'error',
@@ -9,10 +9,10 @@ const both = named('console', 'setTimeout', 'clearTimeout', 'URL', 'fetch');
 export default [
   { rules: { ...js.configs.recommended.rules, ...strict } },
   { files: ['toolkit/web/**/*.js'], languageOptions: { globals: {
-    ...both, ...named('AbortController', 'Blob', 'DecompressionStream', 'ImageData', 'Response', 'ResizeObserver', 'TextDecoder',
-      'TextEncoder', 'WebAssembly', 'addEventListener', 'alert', 'atob', 'devicePixelRatio',
-      'document', 'getComputedStyle', 'innerHeight', 'innerWidth', 'matchMedia',
-      'cancelAnimationFrame', 'performance', 'requestAnimationFrame', 'window') } } },
-  { files: ['tests/page/**/*.mjs'], languageOptions: { globals: {
+    ...both, ...named('AbortController', 'Blob', 'DecompressionStream', 'ImageData', 'Response',
+      'TextDecoder', 'TextEncoder', 'WebAssembly', 'addEventListener', 'alert', 'atob',
+      'cancelAnimationFrame', 'devicePixelRatio', 'document', 'getComputedStyle', 'innerHeight',
+      'innerWidth', 'matchMedia', 'performance', 'requestAnimationFrame', 'window') } } },
+  { files: ['**/*.mjs'], languageOptions: { globals: {
     ...both, ...named('Buffer', 'process') } } },
 ];

@@ -2,6 +2,7 @@
 import puppeteer from 'puppeteer-core';
 
 import { Engine } from './engine.mjs';
+import './scratch.mjs'; // where they write
 
 class Bidi extends Engine {
   async launch(options) {
@@ -11,7 +12,10 @@ class Bidi extends Engine {
     this.page.on('console', (message) => this.console.push(message.text()));
     this.page.on('pageerror', (error) => this.errors.push(error.message));
     this.page.on('request', (request) => this.requests.push(request.url()));
-    this.page.on('dialog', (dialog) => this.answer(dialog.message(), () => dialog.accept()));
+    this.page.on('dialog', (dialog) => {
+      this.dialogs.push(dialog.message());
+      return dialog.accept();
+    });
     return this;
   }
 
@@ -43,7 +47,8 @@ class Bidi extends Engine {
     return this.page.setViewport({ width, height, deviceScaleFactor: ratio });
   }
 
-  screenshot() { return this.page.screenshot(); }
+  // How the element looks on the screen.
+  async screenshot(id) { return Buffer.from(await (await this.page.$(`#${id}`)).screenshot()); }
 
   // Cuts the page off from every network, or ends that.
   offline(yes) { return this.page.setOfflineMode(yes); }
@@ -61,8 +66,9 @@ class Bidi extends Engine {
 }
 
 export class Chromium extends Bidi {
+  // Its driver turns a wheel by whole notches, however far it is told to.
   static limits = { ratios: [1, 1.25, 1.5, 2, 3], changesRatio: true, touch: true, pen: true,
-    emulate: true };
+    partNotch: false, emulate: true };
 
   // Root may not start it with its sandbox; the other flags keep it from the network.
   start() {
@@ -122,7 +128,7 @@ export class Chromium extends Bidi {
 export class Firefox extends Bidi {
   // Its driver has no pen. Of the requests it leaves out those for files.
   static limits = { ratios: [1, 1.25, 1.5, 2, 3], changesRatio: true, touch: true, pen: false,
-    emulate: true };
+    partNotch: true, emulate: true };
 
   start() {
     return this.launch({ browser: 'firefox', executablePath: '/usr/bin/firefox-esr',

@@ -1,12 +1,12 @@
 // WebKit: the small browser that comes with WebKitGTK, on a display of its own, through WebDriver.
 import { spawn } from 'node:child_process';
 import { once } from 'node:events';
-import { mkdirSync, mkdtempSync, rmSync, writeFileSync } from 'node:fs';
+import { mkdirSync, mkdtempSync, writeFileSync } from 'node:fs';
 import { createServer } from 'node:net';
-import { tmpdir } from 'node:os';
 import { setTimeout as pause } from 'node:timers/promises';
 
 import { Engine } from './engine.mjs';
+import { folder } from './scratch.mjs';
 
 // With these the buttons of its window leave it no wider than a phone.
 const kNarrow = '* { min-width: 0; min-height: 0; padding: 0; margin: 0; border-width: 0 }';
@@ -31,26 +31,28 @@ async function freePort() {
 }
 
 export class WebKit extends Engine {
-  // The ratio is whole and stays what it was at the start. A touch reaches the page as a mouse.
+  // The ratio is whole and stays what it was at the start. A touch reaches the page as a mouse, and
+  // a pen that leaves an element is lost to it.
   // Nothing can be emulated, nor is there an offline mode. Of the accessibility tree the driver
   // tells role and name, the rest is read from the page. What the page says while it loads is not
   // heard.
   static limits = { ratios: [1, 2, 3], changesRatio: false, touch: false, pen: true,
-    emulate: false };
+    partNotch: true, emulate: false };
 
   async start(ratio) {
-    this.home = mkdtempSync(`${tmpdir()}/webkit-`);
+    this.home = mkdtempSync(`${folder}/webkit-`);
     mkdirSync(`${this.home}/gtk-3.0`);
     writeFileSync(`${this.home}/gtk-3.0/gtk.css`, kNarrow);
     this.display = spawn('Xvfb', ['-displayfd', '3', '-screen', '0', '4000x3000x24'],
-      { stdio: ['ignore', 'ignore', 'ignore', 'pipe'] });
+      { detached: true, stdio: ['ignore', 'ignore', 'ignore', 'pipe'] });
     process.on('exit', () => this.kill());
     const [number] = await once(this.display.stdio[3], 'data');
 
     const port = await freePort();
     const env = { ...process.env, DISPLAY: `:${String(number).trim()}`, GDK_BACKEND: 'x11',
       GDK_SCALE: String(ratio), XDG_CONFIG_HOME: this.home };
-    this.server = spawn('WebKitWebDriver', [`--port=${port}`], { env, stdio: 'ignore' });
+    this.server = spawn('WebKitWebDriver', [`--port=${port}`],
+      { detached: true, env, stdio: 'ignore' });
     this.address = `http://127.0.0.1:${port}`;
     while (!(await fetch(`${this.address}/status`).catch(() => null))) await pause(20);
     const alwaysMatch = { unhandledPromptBehavior: 'ignore' };
@@ -67,10 +69,12 @@ export class WebKit extends Engine {
     throw Object.assign(new Error(`${error}: ${message}`), { error });
   }
 
+  // The browser is in the driver's group of processes. Once that has ended, the number of the group
+  // may be another's.
   kill() {
-    this.server?.kill();
+    const { pid, exitCode, signalCode } = this.server ?? {};
+    if (pid && exitCode === null && signalCode === null) process.kill(-pid, 'SIGKILL');
     this.display.kill();
-    rmSync(this.home, { recursive: true, force: true });
   }
 
   async close() {
@@ -115,7 +119,9 @@ export class WebKit extends Engine {
       if (error.error !== 'no such alert') throw error;
       return null;
     });
-    if (text !== null) await this.answer(text, () => this.send('POST', '/alert/accept', {}));
+    if (text === null) return;
+    this.dialogs.push(text);
+    await this.send('POST', '/alert/accept', {});
   }
 
   async resize(width, height) {
@@ -123,8 +129,6 @@ export class WebKit extends Engine {
     const bar = height - (await this.evaluate('innerHeight'));
     await this.send('POST', '/window/rect', { width, height: height + bar });
   }
-
-  async screenshot() { return Buffer.from(await this.send('GET', '/screenshot'), 'base64'); }
 
   async accessible(id) {
     const [element, found] = await this.evaluate(`((element) => {
