@@ -17,6 +17,8 @@ const kWaysToAll = {
   'time choice': [['click', 'campyles']],
   ended: [['click', 'TERMATISMOS']],
 };
+// In these nothing moves, nor does anything cover the sketch.
+const kStill = ['opening', 'factors', 'point', 'judgement'];
 
 // What is told at the start and of a run, when a force is guessed.
 const slider = (name, value) => ({ role: 'slider', name, value });
@@ -62,13 +64,13 @@ export function testAccess(program, { emulate }) {
     test(`nothing shuts anybody out, colours: ${scheme}`, { skip }, async () => {
       await program.engine.resize(1366, 768);
       if (emulate) await program.engine.emulate(scheme);
-      for (const [name, way] of Object.entries(kWaysToAll)) {
+      for (const name of scheme === 'light' ? Object.keys(kWaysToAll) : kStill) {
         await program.open();
         await program.evaluate(`(() => { ${kAxe} })()`);
-        await goTo(program, way);
+        await goTo(program, kWaysToAll[name]);
         await program.frames(2);
         assert.deepEqual(await program.evaluate(kBroken), [], name);
-        if (!emulate || !kWays[name]) continue; // what else there is covers the sketch
+        if (!emulate || !kStill.includes(name)) continue;
         const sketch = await program.engine.screenshot('eikona');
         plain[name] ??= sketch;
         assert.ok(sketch.equals(plain[name]), `the sketch looks another way: ${name}`);
