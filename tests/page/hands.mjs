@@ -14,8 +14,10 @@ const kElsewhere = [12, 0];
 const kRight = 'FORCE: HAS THE CORRECT DIRECTION FOR THE SHAPE OF THE CURVE';
 const kWrong = 'FORCE: HAS WRONG DIRECTION FOR THE SHAPE OF THE CURVE';
 const kShiftIsHeld = "document.getElementById('SHIFT').getAttribute('aria-pressed') === 'true'";
-const kCancel = `void document.getElementById('eikona').dispatchEvent(new PointerEvent(
-  'pointercancel', { pointerId: 1, pointerType: 'mouse', isPrimary: true }))`;
+const kHearPress = `document.addEventListener('pointerdown',
+  ({ pointerId }) => { globalThis.pressing = pointerId; }, { once: true, capture: true })`;
+const kCancel = `void document.getElementById('eikona').dispatchEvent(
+  new PointerEvent('pointercancel', { pointerId: pressing, isPrimary: true }))`;
 
 // What is pressed in the menu, and who has the keyboard then.
 const kMenuKeys = [
@@ -94,6 +96,7 @@ function testForces(program, limits) {
       await program.waitForTold(kRight);
       await checkSketch(program, { judged: true });
 
+      await program.evaluate(kHearPress);
       await hand.pointer.down(await program.place(kCrest));
       await program.evaluate(kCancel);
       await hand.pointer.move(await program.place(kAhead));
