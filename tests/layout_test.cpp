@@ -28,15 +28,21 @@ TEST(Layout, FollowsTheScreensHeight) {
     Program p(1280, height);
     app::firststep& w = *p.window;
     const auto rows = LayoutFor(15.0 * height);
-    for (std::size_t i = 0; i < w.controls.size(); ++i) {
-      const toolkit::Control& c = *w.controls[i];
-      EXPECT_EQ((Place{c.Left, c.Top, c.Width, c.Height}), rows.at(i)) << c.Name;
-    }
+    const auto expectRows = [&] {
+      for (std::size_t i = 0; i < w.controls.size(); ++i) {
+        const toolkit::Control& c = *w.controls[i];
+        EXPECT_EQ((Place{c.Left, c.Top, c.Width, c.Height}), rows.at(i)) << c.Name;
+      }
+    };
+    expectRows();
     EXPECT_TRUE(w.Left == 0 && w.Top == 0 && w.Width == 19200 &&
                 w.Height == w.desktop.ScreenHeight());
     EXPECT_TRUE(w.Visible && w.eikona.AutoRedraw && w.Text1.FontSize == 12);
     EXPECT_EQ(w.Option1.Caption.Get(), "Eξήγηση για τριβή");
     EXPECT_TRUE(w.Text1.Text.Get().starts_with("We examine the effect of the shape"));
+    w.Option2.UserClick();
+    p.Scroll({20, 15, 20, 3, 60});
+    expectRows();
   }
 }
 

@@ -77,6 +77,8 @@ TEST_F(QtWindow, BarsHaveArrowsThatPoint) {
     const QRect across = arrow("syxnotikamp", last), upright = arrow("platosvalue", last);
     EXPECT_GT(across.height(), across.width()) << last;
     EXPECT_GT(upright.width(), upright.height()) << last;
+    EXPECT_LT(std::max(across.height(), upright.width()), 10) << last;
+    EXPECT_NEAR(across.width(), upright.height(), 1) << last;
   }
 }
 

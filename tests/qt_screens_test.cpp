@@ -93,6 +93,19 @@ TEST(QtScreens, AnotherOneShowsTheSamePicture) {
   }
 }
 
+TEST(QtScreens, APressIsWhereThePictureShowsIt) {
+  OnEachScreen([](Running& program) {
+    program.Action("GUESSFORCE").trigger();
+    std::vector<double> places;
+    program.window->eikona.MouseDown = [&](short, short, float x, float y) { places = {x, y}; };
+    QTest::mousePress(&program.Find("eikona"), Qt::LeftButton, {}, program.OnSketch(6, -2));
+    ASSERT_EQ(places.size(), 2U);
+    const double pixel = 20.0 * program.screen.ratio / program.window->eikona.ToPixels().size.width;
+    EXPECT_NEAR(places[0], 6, 2 * pixel);
+    EXPECT_NEAR(places[1], -2, 2 * pixel);
+  });
+}
+
 // Menus, tooltips and message boxes have letters of one size, which follows the zoom.
 TEST(QtScreens, EverythingThatIsReadFollowsTheZoom) {
   OnEachScreen([](Running& program) {

@@ -124,6 +124,15 @@ function testForces(program, limits) {
     await program.waitForTold(kWrong);
     await checkSketch(program, { judged: true });
     assert.ok(!(await program.evaluate(kShiftIsHeld)));
+    // SHIFT is held by one finger while the other one pulls.
+    await startGuessing(program);
+    await finger.pointer.down(await program.engine.middle('SHIFT'));
+    await second.down(await program.place(kCrest));
+    await second.move(await program.place(kAhead));
+    await second.up();
+    await checkSketch(program, { judged: true });
+    await finger.pointer.up();
+    assert.ok(!(await program.evaluate(kShiftIsHeld)));
     await program.engine.emulate();
     await program.waitFor("!document.getElementById('SHIFT').checkVisibility()");
   });
@@ -158,7 +167,7 @@ export function testHands(program, limits) {
     await program.open();
     await mouse.click('campyles');
     await mouse.click('Option2');
-    await mouse.scroll('vimatimi', 20);
+    await new Typing(program).scroll('vimatimi', 20);
     await mouse.click('Command1');
     await program.waitForTold('Ds =');
     await program.waitForTold('The run has ended: the body has left the sketch');

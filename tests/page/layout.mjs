@@ -35,7 +35,11 @@ const faults = (mayScroll) => `(() => {
       found.push(element.id + ' is cut: ' +
         [scrollWidth, clientWidth, scrollHeight, clientHeight]);
     }
-    if (holds || element.matches('textarea, input, canvas')) continue;
+    if (holds || element.matches('input, canvas')) continue;
+    if (element.matches('textarea')) {
+      texts.push({ id: element.id, box: element.getBoundingClientRect() });
+      continue;
+    }
     const range = document.createRange();
     range.selectNodeContents(element.querySelector('span:not(.spoken)') ?? element);
     texts.push(...[...range.getClientRects()].map((box) => ({ id: element.id, box })));
