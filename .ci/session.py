@@ -14,7 +14,7 @@ import tempfile
 from contextlib import ExitStack
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), os.pardir, "tests"))
-from end_to_end_test import ask, open_screen, ready_window, start, until_ended, until_none
+from real_window import ask, open_screen, ready_window, start, until_ended, until_none
 
 TOP, UNDER = 36, 611  # of the sketch's inside, and the rows of controls under it
 

@@ -6,12 +6,29 @@ import sys
 from contextlib import ExitStack
 from math import pi, sin
 
-from end_to_end_test import open_screen, start
-from real_window import click, deed, expect, look, press, turn
+from accessibility_bus import click, deed
+from real_window import Photograph, look, open_screen, ready_window, start
 
 BLACK, RED, LIGHT_BLUE, MAGENTA = (0, 0, 0), (255, 0, 0), (5, 150, 255), (250, 0, 150)
 BLUE, OLIVE, GREEN = (0, 0, 255), (155, 155, 0), (0, 250, 10)
 CREST, FIRST_CIRCLE = (6, 2), [(13.3, -5.3), (0.84, -0.14)]
+
+
+def turn(bar, clicks, pattern):
+    """Clicks a scroll bar's last arrow, or for less its first, and waits for what it shows then."""
+    end = 0.92 if clicks > 0 else 0.08
+    click("scroll bar " + bar, pattern, along=end, times=abs(clicks))
+
+
+def press(x, y, *patterns):
+    deed("mousemove {} {} click 1".format(*Photograph().spot(x, y)), *patterns)
+
+
+def pull(x, y, *patterns):
+    """A force from the crest to there."""
+    seen = Photograph()
+    deed("mousemove {} {} keydown shift mousedown 1 mousemove {} {} mouseup 1 keyup shift"
+         .format(*seen.spot(*CREST), *seen.spot(x, y)), *patterns)
 
 
 def steady_speed():
@@ -28,49 +45,39 @@ def steady_speed():
 
 def sharp_bend():
     turn("Tangential acceleration", -20, "επιτάχυνση = 0.0")
-    click("CASES")
-    click("RADIUS OF CURVATURE")
-    expect("the first crest and the first trough")
-    press(CREST)
-    expect(r"x = 6\.0, y = 2\.0: speed 3\.0, centripetal acceleration 1\.2 downward")
+    click("menu item CASES")
+    click("menu item RADIUS OF CURVATURE", "the first crest and the first trough")
+    press(*CREST, r"x = 6\.0, y = 2\.0: speed 3\.0, centripetal acceleration 1\.2 downward")
     look(MAGENTA, *FIRST_CIRCLE)
-    look(LIGHT_BLUE, (6, 1.5), bare=[(6, 1.1)])
-    press((12, 0))
+    press(12, 0, r"x = 12\.0, y = -?0\.0: speed 3\.0, centripetal acceleration 0\.0")
     look(MAGENTA, (4, 4.19), (18, -3.14))  # as good as a straight line
-    look(LIGHT_BLUE, bare=[(12.3, 0.6), (11.7, -0.6)])
     turn("Frequency", 15, "Συχνότης=3.0")
-    press((3, 2))
-    expect(r"x = 3\.0, y = 2\.0: speed 3\.0, centripetal acceleration 4\.9 downward")
+    press(3, 2, r"x = 3\.0, y = 2\.0: speed 3\.0, centripetal acceleration 4\.9 downward")
     look(MAGENTA, (4.82, 0.18), (1.18, 0.18))  # a quarter of its radius
     look(LIGHT_BLUE, (3, -0.3), bare=[(3, -0.8)])
 
 
 def which_force():
-    click("CASES")
-    click("GUESS A FORCE")
-    expect("fifteen stations")
-    press(CREST)
+    click("menu item CASES")
+    click("menu item GUESS A FORCE", "fifteen stations")
+    press(*CREST)
     look(OLIVE, (2.7, 2))
-    press(CREST, (6, 6))
-    expect("^FORCE: INCORRECT FOR THE TANG.*FORCE: HAS WRONG DIRECTION FOR THE SHAPE")
-    press(CREST, (1, 0))
-    expect("^FORCE: INCORRECT FOR THE TANG.*FORCE: HAS THE CORRECT DIRECTION FOR THE SHAPE")
-    press(CREST, (9.8, -1.3))
-    expect("^FORCE: HAS THE CORRECT DIRECTION FOR THE SHAPE")
+    pull(6, 6, ":showing FORCE: INCORRECT FOR THE TANG.*FORCE: HAS WRONG DIRECTION FOR THE SHAPE")
+    pull(1, 0, ":showing FORCE: INCORRECT FOR THE TANG.*FORCE: HAS THE CORRECT DIRECTION FOR")
+    pull(9.8, -1.3, ":showing FORCE: HAS THE CORRECT DIRECTION FOR THE SHAPE")
     look(GREEN, (6, -0.9))
-    press(CREST, (10.5, -4.75))
+    pull(10.5, -4.75)
     look(BLUE, (9, -2.5))
     look(GREEN, bare=[(6, -0.9), (6, 1)])
 
 
 def evolve(*marks, **others):
     """Enters the motion in time with 20 steps to the unit, and waits for marks over these x."""
-    click("TIME DEPENDENT")
-    click("Time evolution")
-    click("Time steps")
-    deed("key", "Home", "key", "Next")
-    expect("Δt = 0.050")
-    click("Start")
+    click("menu item TIME DEPENDENT")
+    click("radio button Time evolution")
+    click("scroll bar Time steps")
+    deed("key Home key Next", "Δt = 0.050")
+    click("push button Start")
     look(RED, *((x, 2 * sin(pi / 12 * x)) for x in marks), **others)
 
 
@@ -85,15 +92,15 @@ def there_and_back():
     turn("Initial speed", 3, "ταχύτητα= 6")
     turn("Tangential acceleration", -30, "επιτάχυνση = -1.0")
     evolve(0, 12.63, 16.83)  # 13.5 along the curve, and 18, where it turns
-    for command in ("STOP", "Step", "CONTINUE"):
+    for command in ("menu item STOP", "push button Step", "menu item CONTINUE"):
         click(command)
     look(BLACK, (1, -0.25), (3.8, -0.25))  # the label of t = 12, at the origin
-    click("STOP")
+    click("menu item STOP")
 
 
 for lesson in (steady_speed, sharp_bend, which_force, odd_numbers, there_and_back):
     with ExitStack() as stack:
         open_screen(stack)
         start(stack, sys.argv[1])
-        look(MAGENTA, *FIRST_CIRCLE)  # the window is in its place
+        ready_window()
         lesson()

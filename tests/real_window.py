@@ -1,108 +1,124 @@
-"""For a test that works the real window by mouse and keys and reads it on the accessibility bus and
-off the screen. Its import starts the test again, once, inside a session bus of its own."""
+"""What the tests of the real window share: a display of their own, the program on it, and what is
+seen there. Its import ends a test with 77 where a tool is missing."""
 
 import os
 import re
-import shutil
 import sys
-import tempfile
+import time
 from math import dist
-from subprocess import call
+from pathlib import Path
+from shutil import which
+from subprocess import DEVNULL, PIPE, Popen, run
 
-from end_to_end_test import WIDTH, ask, photograph, until_none
+TITLE, WIDTH, HEIGHT = "first explanation", 1366, 768
+PATIENCE = 60  # seconds, enough for a slow machine with the sanitizers
+WHITE = (255, 255, 255)
+MARGIN, UNIT = 49, 573 / 20  # the left edge of the sketch's inside, and its unit, in pixels
+NEAR = range(-3, 4)  # how far from its place an ink is looked for, in pixels
+LIKE = 140  # how far a colour may be from the ink, whose lines are paler at their edges
 
-if "inside" not in sys.argv:
-    python = "/usr/bin/python3"  # Debian's own has the bindings; another may stand before it
-    needed = (python, "Xvfb", "dbus-run-session", "openbox", "xdotool")
-    if not all(map(shutil.which, needed)) or call([python, "-c", "import pyatspi"]):
-        sys.exit(77)
-    # A session of its own, which cannot meet the one of the person who runs this.
-    with tempfile.TemporaryDirectory() as os.environ["XDG_RUNTIME_DIR"]:
-        sys.exit(call(["dbus-run-session", "--", python, *sys.argv, "inside"]))
-import pyatspi
-from gi.repository import GLib
-
-heard = []  # what has been announced since the last deed
-pyatspi.Registry.registerEventListener(lambda event: heard.append(event.source.name or ""),
-                                       "object:state-changed:showing")
-os.environ["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+if not all(map(which, ("Xvfb", "openbox", "xdotool", "xprop", "xwininfo", "xrandr", "import"))):
+    sys.exit(77)
 
 
-def below(node):
-    return [each for child in node if child for each in (child, *below(child))]
+def until_none(faults):
+    """Waits until there are none. What is waited for must come to stay."""
+    end = time.monotonic() + PATIENCE
+    while found := faults():
+        if time.monotonic() > end:
+            sys.exit(f"FAILED: {found}")
+        time.sleep(0.1)
 
 
-def shown():
-    while GLib.MainContext.default().iteration(False):
-        pass
-    try:
-        return [node for program in pyatspi.Registry.getDesktop(0)
-                if program and program.name == "firststep" for node in below(program)
-                if node.getState().contains(pyatspi.STATE_SHOWING)]
-    except GLib.Error:
-        return []  # a program that has just ended; the next look finds the living one
+def ask(*command):
+    return run(command, timeout=PATIENCE, check=False, stdout=PIPE, stderr=DEVNULL).stdout
 
 
-def expect(pattern):
-    """Waits until a label, the sketch's description or an announcement says it."""
-    def unsaid():
-        said = heard + [f"{node.name}. {node.description}" for node in shown()]
-        return not any(re.search(pattern, each) for each in said) and (pattern, said)
-    until_none(unsaid)
+def start(stack, *command, **options):
+    process = stack.enter_context(Popen(command, stdin=DEVNULL, **options))
+    stack.callback(process.kill)
+    return process
 
 
-def extents(name):
-    """Of the control whose name begins so; the label beside it may have a longer one."""
-    found = []
-
-    def missing():
-        found[:] = [node for node in shown() if (node.name or "").startswith(name)]
-        return not found and f"{name} is not shown"
-    until_none(missing)
-    node = min(found, key=lambda node: len(node.name))
-    return node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-
-
-def deed(*words):
-    heard.clear()
-    ask("xdotool", *map(str, words))
-
-
-def click(name, across=0.5, down=0.5, times=1):
-    at = extents(name)
-    deed("mousemove", at.x + round(across * at.width), at.y + round(down * at.height),
-         "click", "--repeat", times, "--delay", 40, 1)
+def open_screen(stack, managed=True):
+    # Keys do not repeat: on a busy machine one may be held for long.
+    screen = start(stack, "Xvfb", "-displayfd", "1", "-screen", "0", f"{WIDTH}x{HEIGHT}x24",
+                   "-noreset", "-r", stdout=PIPE, stderr=DEVNULL)
+    number = screen.stdout.readline().decode().strip() or sys.exit("FAILED: no virtual display")
+    leaks = Path(__file__).with_name("leaks.supp")
+    os.environ |= {"DISPLAY": ":" + number, "QT_QPA_PLATFORM": "xcb",
+                   "LSAN_OPTIONS": f"suppressions={leaks}:print_suppressions=0"}
+    # At the first of xdotool's keys the display turns to its keyboard, and a window manager must
+    # take its keys anew, which is too late for that one.
+    ask("xdotool", "key", "shift")
+    if managed:
+        # A window that comes before openbox has started to the end may never be shown.
+        ready = "xprop -root -format READY 8s -set READY yes"
+        start(stack, "openbox", "--sm-disable", "--startup", ready, stdout=DEVNULL, stderr=DEVNULL)
+        until_none(lambda: b"yes" not in ask("xprop", "-root", "READY") and "no window manager")
 
 
-def turn(bar, clicks, shows):
-    """Clicks a scroll bar's last arrow, or for less its first, and waits for what it shows then."""
-    at, end = extents(bar), 0.92 if clicks > 0 else 0.08
-    upright = at.height > at.width
-    click(bar, 0.5 if upright else end, end if upright else 0.5, abs(clicks))
-    expect(shows)
+def frame():
+    """How wide the window manager's frame is: left, right, top and bottom."""
+    told = ask("xprop", "-name", TITLE, "_NET_FRAME_EXTENTS").decode()
+    return [int(width) for width in re.findall(r"\d+", told)] or [0, 0, 0, 0]
 
 
-def sketch():
-    """Where the inside of its frame begins, how many pixels are in it across, and to a unit."""
-    at = extents("Sketch")
-    return at.x + 1, at.y + 1, at.width - 2, (at.width - 2) / 20
+def uncovered(left=0, top=0, width=WIDTH, height=HEIGHT):
+    """Why the window with its frame does not cover this part of the screen, if so."""
+    inside = re.findall(r": +(-?\d+)\n", ask("xwininfo", "-name", TITLE).decode())
+    if not inside:
+        return "no window"
+    x, y, _, _, across, down = map(int, inside[:6])
+    before, behind, above, below = frame()
+    box = (x - before, y - above, across + before + behind, down + above + below)
+    return box != (left, top, width, height) and f"{box} instead of {(left, top, width, height)}"
 
 
-def press(*places):
-    """Presses the mouse at the first place and lets go at the last; a pull is under SHIFT."""
-    left, top, _, unit = sketch()
-    spots = [(left + round(x * unit), top + round((10 - y) * unit)) for x, y in places]
-    down, up = (("keydown", "shift"), ("keyup", "shift")) if len(spots) > 1 else ((), ())
-    deed("mousemove", *spots[0], *down, "mousedown", 1, "mousemove", *spots[-1], "mouseup", 1, *up)
+def ready_window(managed=True):
+    """Waits until the window covers the screen and the keys go to it. Its number."""
+    def number():
+        return ask("xdotool", "search", "--onlyvisible", "--name", f"^{TITLE}$").strip()
+
+    def unready():
+        if not managed:
+            ask("xdotool", "windowfocus", number())
+        focused = ask("xdotool", "getactivewindow" if managed else "getwindowfocus").strip()
+        return uncovered() or focused != number() and f"the keys go to the window {focused}"
+    until_none(unready)
+    return number()
+
+
+def until_ended(program, deed):
+    until_none(lambda: program.poll() is None and f"the program has not ended by {deed}")
+    if program.returncode != 0:
+        sys.exit(f"FAILED: ended by {deed} with status {program.returncode}, not 0")
+
+
+class Photograph:
+    """The screen, by the points of the sketch, whose inside begins with the first white."""
+
+    def __init__(self):
+        rgb = ask("import", "-silent", "-window", "root", "-depth", "8", "rgb:-")
+        self.pixels = list(zip(rgb[::3], rgb[1::3], rgb[2::3]))
+        left, _, top, _ = frame()
+        self.left = left + MARGIN
+        column = self.pixels[self.left + 20::WIDTH]
+        self.top = column.index(WHITE, top) if WHITE in column[top:] else top
+
+    def spot(self, x, y):
+        return self.left + round(x * UNIT), self.top + round((10 - y) * UNIT)
+
+    def shows(self, ink, x, y):
+        across, down = self.spot(x, y)
+        near = (self.pixels[(down + j) * WIDTH + across + i] for i in NEAR for j in NEAR)
+        return any(dist(pixel, ink) < LIKE for pixel in near)
 
 
 def look(ink, *places, bare=()):
     """Waits until the ink is seen at all the places, and none of it at the bare ones."""
     def faults():
-        left, top, size, unit = sketch()
-        screen = photograph()
-        inked = [(column / unit, 10 - row / unit) for row in range(size) for column in range(size)
-                 if dist(screen[(top + row) * WIDTH + left + column], ink) < 140]
-        return [at for at in (*places, *bare)
-                if any(dist(at, point) < 0.12 for point in inked) != (at in places)]
+        seen = Photograph()
+        wrong = [at for at in (*places, *bare) if seen.shows(ink, *at) != (at in places)]
+        return wrong and f"the ink {ink} is missing, or is where it should not be: {wrong}"
     until_none(faults)
