@@ -1,5 +1,5 @@
-"""What the program tells on the accessibility bus, as a screen reader hears it. Its import starts the
-test again, once, inside a session bus of its own."""
+"""What the program tells on the accessibility bus, as a screen reader hears it. Its import starts
+the test again, once, inside a session bus of its own."""
 
 import os
 import re
@@ -61,7 +61,7 @@ def nodes():
 def expect(*patterns):
     """Waits until each is told by a node or has been heard."""
     def unlike():
-        world = "\n".join([*nodes(), *heard])
+        world = "\n".join(dict.fromkeys([*nodes(), *heard]))
         untold = [pattern for pattern in patterns if not re.search(pattern, world)]
         return untold and f"expected {untold} in:\n{world}"
     until_none(unlike)
