@@ -80,12 +80,16 @@ def deed(words, *patterns):
     expect(*patterns)
 
 
-def click(name, *patterns, along=0.5, times=1):
-    """In the middle of a control, or at another part of its length."""
+def point(name, along=0.5):
+    """The mouse, at the middle of a control, or at another part of its length."""
     at = find(name + ".* SHOWING").queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
     across, down = (along, 0.5) if at.width > at.height else (0.5, along)
-    x, y = at.x + round(across * at.width), at.y + round(down * at.height)
-    deed(f"mousemove {x} {y} click --repeat {times} --delay 40 1", *patterns)
+    deed(f"mousemove {at.x + round(across * at.width)} {at.y + round(down * at.height)}")
+
+
+def click(name, *patterns):
+    point(name)
+    deed("click 1", *patterns)
 
 
 pyatspi.Registry.registerEventListener(

@@ -6,8 +6,8 @@ import sys
 from contextlib import ExitStack
 from math import pi, sin
 
-from accessibility_bus import click, deed
-from real_window import Photograph, look, open_screen, ready_window, start
+from accessibility_bus import click, deed, expect, find, point
+from real_window import Photograph, ask, look, open_screen, ready_window, start, until_none
 
 BLACK, RED, LIGHT_BLUE, MAGENTA = (0, 0, 0), (255, 0, 0), (5, 150, 255), (250, 0, 150)
 BLUE, OLIVE, GREEN = (0, 0, 255), (155, 155, 0), (0, 250, 10)
@@ -16,8 +16,13 @@ CREST, FIRST_CIRCLE = (6, 2), [(13.3, -5.3), (0.84, -0.14)]
 
 def turn(bar, clicks, pattern):
     """Clicks a scroll bar's last arrow, or for less its first, and waits for what it shows then."""
-    end = 0.92 if clicks > 0 else 0.08
-    click("scroll bar " + bar, pattern, along=end, times=abs(clicks))
+    value = find("scroll bar " + bar).queryValue()
+    point("scroll bar " + bar, along=0.92 if clicks > 0 else 0.08)
+    for _ in range(abs(clicks)):
+        before = value.currentValue
+        ask("xdotool", "click", "1")
+        until_none(lambda before=before: value.currentValue == before and f"{bar} is at {before}")
+    expect(pattern)
 
 
 def press(x, y, *patterns):
