@@ -27,7 +27,7 @@ def until_none(faults):
     while found := faults():
         if time.monotonic() > end:
             sys.exit(f"FAILED: {found}")
-        time.sleep(0.1)
+        time.sleep(0.02)
 
 
 def ask(*command):
