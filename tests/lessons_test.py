@@ -20,7 +20,7 @@ def turn(bar, clicks, pattern):
     point("scroll bar " + bar, along=0.92 if clicks > 0 else 0.08)
     for _ in range(abs(clicks)):
         before = value.currentValue
-        ask("xdotool", "click", "1")
+        ask("xdotool", "mousedown", "1", "mouseup", "1")  # "click" dawdles
         until_none(lambda before=before: value.currentValue == before and f"{bar} is at {before}")
     expect(pattern)
 
