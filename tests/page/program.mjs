@@ -10,8 +10,9 @@ const kArrow = 14; // a bar's parts, in pixels of the program
 const kThumb = 12;
 const kInks = { black: [0, 0, 0], pink: [250, 0, 150], blue: [0, 0, 255], olive: [155, 155, 0] };
 
-// Whether all is white; how many pixels are nearly of an ink, as lines are smooth; and a hash: FNV-1a over the
-// components, in two halves, as these numbers have no 64 bits. It is kept, so that it gets fast.
+// Whether all is white; how many pixels are nearly of an ink, as lines are smooth; and a hash:
+// FNV-1a over the components, in two halves, as these numbers have no 64 bits. It is kept, so that
+// it gets fast.
 const kLook = `(globalThis.look ??= () => {
   const canvas = document.getElementById('eikona');
   const { width, height } = canvas;

@@ -27,12 +27,14 @@ inline void Blend(std::uint32_t& pixel, const Ink& ink, double outside) {
     if (outside <= 0.0) pixel = ink.colour;
     return;
   }
-  if (!(outside < 0.5)) return;
-  if (outside <= -0.5) {
+  // A pixel that is not cut by the outline needs no mixing. What is no number counts as outside.
+  const double cover = 0.5 - outside;
+  if (!(cover > 0.0)) return;
+  if (cover >= 1.0) {
     pixel = ink.colour;
-    return;
+  } else {
+    pixel = Mixed(pixel, ink.colour, static_cast<unsigned>(static_cast<int>(cover * 256.0)));
   }
-  pixel = Mixed(pixel, ink.colour, static_cast<unsigned>(static_cast<int>((0.5 - outside) * 256.0)));
 }
 
 // The whole numbers from 0 to limit - 1 that lie less than `reach` from `middle`. By cutting off

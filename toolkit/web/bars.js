@@ -1,5 +1,6 @@
 // Scroll bars. The browser's own has the keyboard, the value and what a screen reader needs of it;
-// a pointer is told to the program, as each browser does something else of its own beside the thumb.
+// a pointer is told to the program, as each browser does something else of its own beside the
+// thumb.
 import { tell } from './program.js';
 import { keepFromBrowser, make } from './texts.js';
 
