@@ -11,12 +11,12 @@ namespace window {
 namespace {
 
 // What the layout places around the sketch, in pixels: to its left 48 and to its right the text
-// box, 465 high; above it 16 and under it three rows of 33; and the row of scroll bars, whose right
-// end lies 494.5 to the right of the sketch's half.
+// box, 465 high; above it 16 and under it three rows of 33. The row of scroll bars would do with a
+// width of 716; but the sketch is to be as high as the text box, and so as wide.
 constexpr toolkit::Room kAroundSketch{.share = 0.75,
                                       .beside = 48.0 + 225.0,
                                       .under = 16.0 + 99.0,
-                                      .narrowest = 716.0,
+                                      .narrowest = 48.0 + 225.0 + 465.0,
                                       .lowest = 465.0};
 
 // The number behind a label's "=".
