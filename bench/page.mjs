@@ -9,7 +9,7 @@ import { brotliCompressSync, constants } from 'node:zlib';
 
 import { Chromium } from '../browsers/bidi.mjs';
 import { copyWith, kPage } from '../browsers/copy.mjs';
-import { Program, Pointing } from '../tests/page/program.mjs';
+import { Program, Pointing } from '../browsers/program.mjs';
 
 const kView = [1920, 1083]; // here the picture is 810 pixels wide, as in the native benchmark
 const kStarts = 21;

@@ -4,7 +4,7 @@ import { readFileSync } from 'node:fs';
 import { test } from 'node:test';
 
 import { goTo, kWays } from './pictures.mjs';
-import { Pointing, Typing } from './program.mjs';
+import { Pointing, Typing } from '../../browsers/program.mjs';
 
 const kAxe = readFileSync(
   new URL('../../browsers/node_modules/axe-core/axe.min.js', import.meta.url), 'utf8');

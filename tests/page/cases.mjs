@@ -2,7 +2,7 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 
-import { Pointing, Typing } from './program.mjs';
+import { Pointing, Typing } from '../../browsers/program.mjs';
 import { readCases } from './table.mjs';
 
 // From case to case, so that each picture follows another kind of picture. "Timer1" is what

@@ -3,7 +3,7 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 
-import { Pointing, Typing } from './program.mjs';
+import { Pointing, Typing } from '../../browsers/program.mjs';
 
 const kNotch = 120; // of a wheel
 const kCrest = [6, 2];

@@ -3,7 +3,7 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 
-import { Pointing } from './program.mjs';
+import { Pointing } from '../../browsers/program.mjs';
 
 const kSizes = [[640, 480], [800, 600], [1024, 600], [768, 1024], [1366, 768],
   [1080, 1920], [1920, 1080], [2560, 1440], [3840, 2160]];

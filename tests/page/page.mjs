@@ -8,7 +8,7 @@ import { testHands } from './hands.mjs';
 import { testLayout } from './layout.mjs';
 import { testPictures } from './pictures.mjs';
 import { testPlaces } from './places.mjs';
-import { Program } from './program.mjs';
+import { Program } from '../../browsers/program.mjs';
 import { testWalk } from './walk.mjs';
 
 export function testPage(Engine) {

@@ -4,7 +4,7 @@ import assert from 'node:assert/strict';
 import { test } from 'node:test';
 
 import { copyWith } from '../../browsers/copy.mjs';
-import { Typing } from './program.mjs';
+import { Typing } from '../../browsers/program.mjs';
 import { readPictures } from './table.mjs';
 
 // At ratio 1 the native tests have so large a screen.

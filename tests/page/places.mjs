@@ -6,7 +6,7 @@ import { once } from 'node:events';
 import { after, before, test } from 'node:test';
 
 import { copyWith, kPage } from '../../browsers/copy.mjs';
-import { noise, Pointing } from './program.mjs';
+import { noise, Pointing } from '../../browsers/program.mjs';
 
 const frame = (sandbox) => `<!doctype html><title>a lesson</title>
   <iframe sandbox="${sandbox}" src="/page" width="1000" height="700"></iframe>`;

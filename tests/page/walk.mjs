@@ -6,7 +6,7 @@ import { test } from 'node:test';
 
 import { copyWith } from '../../browsers/copy.mjs';
 import { device, down, stroke, to, turn, up } from '../../browsers/engine.mjs';
-import { Pointing, noise } from './program.mjs';
+import { Pointing, noise } from '../../browsers/program.mjs';
 
 const kEvents = 2000;
 const kAtOnce = 20; // of each device, before it is looked whether the program has been ended

@@ -2,7 +2,7 @@
 import assert from 'node:assert/strict';
 import { isDeepStrictEqual } from 'node:util';
 
-import { kPage } from '../../browsers/copy.mjs';
+import { kPage } from './copy.mjs';
 
 const kInCases = ['DYNAMEISDIAFORES', 'GUESSFORCE'];
 const kInMenu = ['XANAPISO', 'periptoseis', 'campyles', 'STAMATHMA', 'KSEKINA', 'TERMATISMOS'];
