@@ -77,7 +77,7 @@ TEST(ScrollBar, TheWheelMovesItByNotches) {
                              {0, -50, 51},   {0, -50, 51},      {0, -50, 52},       {0, 30, 52},
                              {0, 119, 52},   {0, 1, 51},        {240, 0, 49},       {-120, 119, 50},
                              {30, -120, 51}, {0, -600, 56},     {0, NAN, 56},       {0, -119.5, 56},
-                             {0, -0.5, 57},  {0, INFINITY, 10}, {0, -INFINITY, 300}};
+                             {0, -0.5, 57},  {0, HUGE_VAL, 10}, {0, -HUGE_VAL, 300}};
   Program p;
   for (const auto& [x, y, value] : turns) {
     p.window->vimatimi.UserWheel(x, y);

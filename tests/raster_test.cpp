@@ -109,7 +109,8 @@ TEST(Raster, CirclesOfAnyRadiusLieWhereTheyShould) {
     double ink = 0.0, off = 0.0, length = 0.0;
     const auto seen = sheet.Seen();
     for (int place = 0; place < wide * high; ++place) {
-      const auto gap = static_cast<double>(std::hypot(place % wide - x, place / wide - y) - radius);
+      const int column = place % wide, row = place / wide;
+      const auto gap = static_cast<double>(std::hypot(column - x, row - y) - radius);
       length += std::abs(gap) < 4 ? 1.0 / 8 : 0;  // a band of 8 pixels around the circle
       const double part = 1.0 - (seen[place] & 0xff) / 255.0;
       if (!dotted) {
@@ -171,8 +172,8 @@ TEST(Raster, KeyboardsPointerStandsOverThePicture) {
       const auto shape = toolkit::PointerShape(at, density);
       const auto seen = sheet.Look(shape);
       for (const auto& [along, up, with, without] : looks) {
-        EXPECT_EQ(seen.Row((30 - up) * density)[(20 + along) * density],
-                  kPacking(pulls ? with : without))
+        const int column = (20 + along) * density, row = (30 - up) * density;
+        EXPECT_EQ(seen.Row(row)[column], kPacking(pulls ? with : without))
             << density << ' ' << pulls << ' ' << along << ' ' << up;
       }
     }
