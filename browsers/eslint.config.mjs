@@ -10,9 +10,9 @@ export default [
   { rules: { ...js.configs.recommended.rules, ...strict } },
   { files: ['toolkit/web/**/*.js'], languageOptions: { globals: {
     ...both, ...named('AbortController', 'Blob', 'DecompressionStream', 'ImageData', 'Response',
-      'TextDecoder', 'TextEncoder', 'WebAssembly', 'addEventListener', 'alert', 'atob',
-      'cancelAnimationFrame', 'devicePixelRatio', 'document', 'getComputedStyle', 'innerHeight',
-      'innerWidth', 'matchMedia', 'performance', 'requestAnimationFrame', 'window') } } },
+      'TextDecoder', 'TextEncoder', 'WebAssembly', 'alert', 'atob', 'cancelAnimationFrame',
+      'devicePixelRatio', 'document', 'getComputedStyle', 'matchMedia', 'performance',
+      'requestAnimationFrame', 'window') } } },
   { files: ['**/*.mjs'], languageOptions: { globals: {
     ...both, ...named('Buffer', 'process') } } },
 ];
