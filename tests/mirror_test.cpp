@@ -8,27 +8,25 @@ namespace {
 
 using Counts = std::map<std::string, int>;
 
-struct Watcher : toolkit::Mirror {
-  explicit Watcher(std::function<void()> refreshed) : refresh(std::move(refreshed)) {}
-  std::function<void()> refresh;
-  void Refresh() override { refresh(); }
-};
-
 // A desktop that counts how often each component is refreshed.
 struct CountingDesktop : toolkit::headless::HeadlessDesktop {
   using HeadlessDesktop::HeadlessDesktop;
 
   Counts counts;
-  std::vector<std::unique_ptr<Watcher>> watchers;
+  std::vector<std::unique_ptr<toolkit::Mirror>> mirrors;
 
   void Create(toolkit::Window& window) override {
     HeadlessDesktop::Create(window);
     std::vector<toolkit::Component*> all(window.controls.begin(), window.controls.end());
     all.insert(all.end(), {&window, window.timers[0]});
     for (toolkit::Component* component : all) {
-      const auto count = [this, component] { ++counts[component->Name]; };
-      component->Attach(watchers.emplace_back(std::make_unique<Watcher>(count)).get());
+      mirrors.push_back(std::make_unique<toolkit::Mirror>(
+          *component, [this, component] { ++counts[component->Name]; }));
     }
+  }
+  void Destroy(toolkit::Window& window) override {
+    mirrors.clear();
+    HeadlessDesktop::Destroy(window);
   }
   Counts Taken() { return std::exchange(counts, {}); }
 };
@@ -75,9 +73,8 @@ TEST(Mirrors, MayChangeTheState) {
   Program p;
   app::firststep& w = *p.window;
   int seen = 0;
-  Watcher first([&] { w.Label2.Caption = "changed in turn"; }), second([&] { ++seen; });
-  w.Label1.Attach(&first);
-  w.Label2.Attach(&second);
+  const toolkit::Mirror first(w.Label1, [&] { w.Label2.Caption = "changed in turn"; });
+  const toolkit::Mirror second(w.Label2, [&] { ++seen; });
   w.Label1.Caption = "changed";
   EXPECT_EQ(seen, 1);
 }

@@ -21,6 +21,15 @@ void Component::Changed() {
   if (!site_.events.Running()) site_.ShowChanges();
 }
 
+Mirror::Mirror(Component& component, std::function<void()> refresh)
+    : Refresh(std::move(refresh)), component_(component) {
+  component_.mirror_ = this;
+}
+
+Mirror::~Mirror() {
+  component_.mirror_ = nullptr;
+}
+
 Control::Control(ControlSite& site, const Design& design)
     : Component(site, design.name),
       AccessibleName(design.accessibleName),

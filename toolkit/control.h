@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,17 +13,10 @@ namespace toolkit {
 class ControlVisitor;
 class Component;
 class Control;
+class Mirror;
 
 // Lengths on the window are twips: 1/1440 inch, 15 to a pixel at 96 dots per inch.
 inline constexpr float kTwipsPerPixel = 15.0F;
-
-// A backend's image of one component. Refresh() takes over the state; it is called once for all
-// that an event has changed, after the event's handler has ended.
-class Mirror {
- public:
-  virtual ~Mirror() = default;
-  virtual void Refresh() = 0;
-};
 
 // Where controls live: the queue that their events go through, and all of them in tab order.
 class ControlSite {
@@ -52,17 +46,31 @@ class Component : public Changeable {
 
   // Shown after the event that runs, or at once when none does.
   void Changed() override;
-  // The mirror belongs to the backend; null takes it off again.
-  void Attach(Mirror* mirror) { mirror_ = mirror; }
 
  protected:
   EventQueue& Events() { return site_.events; }
 
  private:
   friend class ControlSite;
+  friend class Mirror;
   ControlSite& site_;
   Mirror* mirror_ = nullptr;
   bool changed_ = false;
+};
+
+// A backend's image of a component, for as long as it lives. `refresh` takes over the state; it is
+// called once for all that an event has changed, after the event's handler has ended.
+class Mirror {
+ public:
+  Mirror(Component& component, std::function<void()> refresh);
+  virtual ~Mirror();
+  Mirror(const Mirror&) = delete;
+  Mirror& operator=(const Mirror&) = delete;
+
+  const std::function<void()> Refresh;
+
+ private:
+  Component& component_;
 };
 
 // A control's design-time place in its window, in twips from the top left of the client area.

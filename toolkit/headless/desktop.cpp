@@ -27,19 +27,14 @@ class PictureFinder : public ControlVisitor {
 class HeadlessDesktop::PaintedMirror : public Mirror {
  public:
   PaintedMirror(PictureBox& box, raster::RasterCanvas& canvas, double density)
-      : box_(box), canvas_(canvas), density_(density) {
+      : Mirror(box, [this] { Fit(); }), box_(box), canvas_(canvas), density_(density) {
     box_.AttachCanvas(&canvas_);
-    box_.Attach(this);
-    Refresh();
+    Fit();
   }
-  ~PaintedMirror() override {
-    box_.Attach(nullptr);
-    box_.AttachCanvas(nullptr);
-  }
-  PaintedMirror(const PaintedMirror&) = delete;
-  PaintedMirror& operator=(const PaintedMirror&) = delete;
+  ~PaintedMirror() override { box_.AttachCanvas(nullptr); }
 
-  void Refresh() final {
+ private:
+  void Fit() {
     const PixelBox place = TwipScale(1.0).CanvasOf(box_);
     const Extent pixels{static_cast<int>(std::lround(place.width * density_)),
                         static_cast<int>(std::lround(place.height * density_))};
@@ -47,7 +42,6 @@ class HeadlessDesktop::PaintedMirror : public Mirror {
     if (canvas_.Resize(pixels, density_, !box_.CanRedraw())) box_.Redraw();
   }
 
- private:
   PictureBox& box_;
   raster::RasterCanvas& canvas_;
   double density_;

@@ -11,20 +11,19 @@ namespace toolkit::qt {
 
 ControlMirror::ControlMirror(Control& control, const TwipScale& twips,
                              std::unique_ptr<QWidget> widget, std::function<void()> show)
-    : control_(control), twips_(twips), widget_(std::move(widget)), show_(std::move(show)) {
+    : Mirror(control, [this] { Show(); }),
+      control_(control),
+      twips_(twips),
+      widget_(std::move(widget)),
+      show_(std::move(show)) {
   widget_->setObjectName(Text(control.Name));
   widget_->setAccessibleName(Text(control.AccessibleName));
   widget_->setToolTip(Text(control.Hint));
   widget_->setAccessibleDescription(Text(control.Hint));
-  Refresh();
-  control.Attach(this);
+  Show();
 }
 
-ControlMirror::~ControlMirror() {
-  control_.Attach(nullptr);
-}
-
-void ControlMirror::Refresh() {
+void ControlMirror::Show() {
   const QSignalBlocker blocker(widget_.get());
   const PixelBox place = twips_.PixelsOf(control_);
   widget_->setGeometry(place.left, place.top, place.width, place.height);

@@ -19,13 +19,10 @@ class ControlMirror : public Mirror {
   // of control has.
   ControlMirror(Control& control, const TwipScale& twips, std::unique_ptr<QWidget> widget,
                 std::function<void()> show);
-  ~ControlMirror() override;
-  ControlMirror(const ControlMirror&) = delete;
-  ControlMirror& operator=(const ControlMirror&) = delete;
-
-  void Refresh() final;
 
  private:
+  void Show();
+
   Control& control_;
   const TwipScale& twips_;
   std::unique_ptr<QWidget> widget_;

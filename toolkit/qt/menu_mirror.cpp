@@ -13,31 +13,22 @@ namespace {
 
 class MenuMirror : public Mirror {
  public:
-  MenuMirror(MenuItem& item, QAction& action) : item_(item), action_(action) {
-    action_.setObjectName(Text(item.Name));
+  MenuMirror(MenuItem& item, QAction& action)
+      : Mirror(item, [&] { action.setChecked(item.Checked); }) {
+    action.setObjectName(Text(item.Name));
     // No platform may take an item for its own "Quit" and move it elsewhere.
-    action_.setMenuRole(QAction::NoRole);
-    action_.setCheckable(item.Checkable);
-    action_.setToolTip(Text(item.Hint));
-    SetAccessibleRole(action_, QAccessible::MenuItem);
+    action.setMenuRole(QAction::NoRole);
+    action.setCheckable(item.Checkable);
+    action.setToolTip(Text(item.Hint));
+    SetAccessibleRole(action, QAccessible::MenuItem);
     // Only the user's choice is announced by this signal. Qt has turned the mark over by then; it
     // goes back to what the program says.
-    QObject::connect(&action_, &QAction::triggered, &action_, [this] {
-      item_.UserClick();
+    QObject::connect(&action, &QAction::triggered, &action, [this, &item] {
+      item.UserClick();
       Refresh();
     });
     Refresh();
-    item_.Attach(this);
   }
-  ~MenuMirror() override { item_.Attach(nullptr); }
-  MenuMirror(const MenuMirror&) = delete;
-  MenuMirror& operator=(const MenuMirror&) = delete;
-
-  void Refresh() final { action_.setChecked(item_.Checked); }
-
- private:
-  MenuItem& item_;
-  QAction& action_;
 };
 
 // The caption for Qt, with an ampersand before its mnemonic.

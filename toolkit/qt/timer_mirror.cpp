@@ -4,19 +4,14 @@
 
 namespace toolkit::qt {
 
-TimerMirror::TimerMirror(Timer& timer) : timer_(timer) {
+TimerMirror::TimerMirror(Timer& timer) : Mirror(timer, [this] { Follow(); }), timer_(timer) {
   shot_.setSingleShot(true);
   shot_.setTimerType(Qt::PreciseTimer);
   QObject::connect(&shot_, &QTimer::timeout, &shot_, [this] { Wake(); });
-  Refresh();
-  timer_.Attach(this);
+  Follow();
 }
 
-TimerMirror::~TimerMirror() {
-  timer_.Attach(nullptr);
-}
-
-void TimerMirror::Refresh() {
+void TimerMirror::Follow() {
   grid_.Follow(timer_, Clock::now());
   Aim();
 }

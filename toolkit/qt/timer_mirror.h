@@ -10,13 +10,9 @@ namespace toolkit::qt {
 class TimerMirror : public Mirror {
  public:
   explicit TimerMirror(Timer& timer);
-  ~TimerMirror() override;
-  TimerMirror(const TimerMirror&) = delete;
-  TimerMirror& operator=(const TimerMirror&) = delete;
-
-  void Refresh() final;
 
  private:
+  void Follow();
   void Wake();
   void Aim();
 

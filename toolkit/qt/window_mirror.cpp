@@ -26,7 +26,8 @@ constexpr int kSettlingLooks = 100;
 }  // namespace
 
 WindowMirror::WindowMirror(Window& window, const QRect& free, const View& view)
-    : window_(window),
+    : Mirror(window, [this] { Show(); }),
+      window_(window),
       told_(view),
       free_(free),
       twips_(view.zoom),
@@ -53,15 +54,10 @@ WindowMirror::WindowMirror(Window& window, const QRect& free, const View& view)
     if (++looks_ >= kSettlingLooks) settling_.stop();
   });
   ApplyStyle(twips_.Zoom());
-  Refresh();
-  window.Attach(this);
+  Show();
 }
 
-WindowMirror::~WindowMirror() {
-  window_.Attach(nullptr);
-}
-
-void WindowMirror::Refresh() {
+void WindowMirror::Show() {
   FitFrame();
   // Never too small for the controls; what the window lacks is scrolled.
   const Size needed = Extents(window_.controls);
@@ -91,7 +87,7 @@ void WindowMirror::Cover(const QRect& free) {
   ApplyStyle(twips_.Zoom());
   for (const auto& mirror : controls_) mirror->Refresh();
   asked_ = QRect();
-  Refresh();
+  Show();
 }
 
 // A window as large as the screen that the program was told covers all of the free part, which on a

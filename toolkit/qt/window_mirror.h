@@ -21,9 +21,6 @@ class WindowMirror : public QMainWindow, public Mirror {
   // `free` is the part of the screen to be covered, in logical pixels, of which the program was
   // told as the view's screen.
   WindowMirror(Window& window, const QRect& free, const View& view);
-  ~WindowMirror() override;
-
-  void Refresh() final;
   // Covers this part of a screen from now on; everything becomes as much larger or smaller.
   void Cover(const QRect& free);
   // Whether the window has been shown, or has come to cover another part, just now.
@@ -37,6 +34,7 @@ class WindowMirror : public QMainWindow, public Mirror {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void Show();
   QRect Outer() const;
   void FitFrame();
   void Settle();

@@ -18,7 +18,7 @@ Clock::time_point Now() {
   return Clock::time_point(std::chrono::duration_cast<Clock::duration>(now));
 }
 
-class WebDesktop : public Desktop, private Mirror {
+class WebDesktop : public Desktop {
  public:
   WebDesktop(Size seen, double ratio) : seen_(seen) { scale_.ratio = ratio; }
 
@@ -31,14 +31,13 @@ class WebDesktop : public Desktop, private Mirror {
     window_ = &window;
     view_ = ViewOf(PageFor(seen_, window.Surroundings), 0.0, window.Surroundings);
     MakeElement(window, "Window");
-    page::Set(kWindow, "text", window.Caption);
+    page::Tell(kWindow, "text", window.Caption);
+    mirrors_.push_back(std::make_unique<Mirror>(window, [this] { Show(); }));
     Zoom(view_.zoom);
-    mirrors_ = MirrorAll(window, scale_);
+    MirrorAll(window, scale_, mirrors_);
     for (Timer* timer : window.timers) timers_.emplace_back(timer, TickGrid());
-    window.Attach(this);
   }
-  void Destroy(Window& window) override {
-    window.Attach(nullptr);
+  void Destroy(Window&) override {
     mirrors_.clear();
     timers_.clear();
   }
@@ -74,16 +73,15 @@ class WebDesktop : public Desktop, private Mirror {
     // Rounded down: rounded up, it could make the window a pixel too high for the page.
     scale_.menuHeight = static_cast<int>(kMenuHeight * zoom);
     page::TellZoom(zoom, scale_.menuHeight);
-    Refresh();
     for (const auto& mirror : mirrors_) mirror->Refresh();
   }
 
-  void Refresh() override {
+  void Show() {
     const Size needed = Extents(window_->controls);
     const double zoom = scale_.twips.Zoom();
     page::Place(kWindow, 0.0, 0.0, std::floor(needed.width * zoom),
                 std::floor((needed.height + kMenuHeight) * zoom), scale_.Letters(kMenuPoints));
-    page::Set(kWindow, "hidden", window_->Visible ? nullptr : "");
+    page::Tell(kWindow, "hidden", !window_->Visible);
   }
 
   Size seen_;

@@ -8,9 +8,7 @@ import { announce, client, fitLater, make, shell } from './texts.js';
 const kKeys = ['ArrowLeft', 'ArrowRight', 'ArrowUp', 'ArrowDown', 'PageUp', 'PageDown', 'Home',
   'End', 'Enter', ' ', 'Escape', 'Shift']; // in the order of the program's KeyCodes; others follow
 const options = make('div', { role: 'radiogroup', 'aria-label': 'Case', hidden: '' });
-const elements = []; // by number; each knows what it was told last, as a change costs time
-// What the user changes as well need not be there any more.
-const isUsers = ({ kind }, what) => what === 'value' || kind === 'Text';
+const elements = []; // by number
 
 const item = (role) => ['Item', () => make('div', { role, tabindex: -1 })];
 const kinds = { // with the name under which the program hears of them
@@ -47,6 +45,11 @@ const setters = { // all else is an attribute
     else element.textContent = text;
     fitLater(element);
   },
+  hidden(element, truth) {
+    element.hidden = truth === 'true';
+    options.hidden = !options.querySelector(':not([hidden])');
+    fitLater(element); // while it was hidden, it could not be measured
+  },
   // A label tells its name before its text, everything else instead of it.
   name(element, name) {
     if (element.kind === 'Label') element.firstChild.textContent = `${name}: `;
@@ -66,7 +69,7 @@ export const forProgram = {
   Make(kindAt, nameAt, inside) {
     const kind = textAt(kindAt);
     const [name, create] = kinds[kind];
-    const element = Object.assign(create(), { kind: name, at: elements.length, told: {} });
+    const element = Object.assign(create(), { kind: name, at: elements.length });
     elements.push(element);
     if (element === shell) return element.at;
     element.id = textAt(nameAt);
@@ -78,16 +81,9 @@ export const forProgram = {
   Set(at, whatAt, valueAt) {
     const element = elements[at];
     const what = textAt(whatAt);
-    const value = valueAt ? textAt(valueAt) : null;
-    if (element.told[what] === value && !isUsers(element, what)) return;
-    element.told[what] = value;
+    const value = textAt(valueAt);
     if (setters[what]) setters[what](element, value);
-    else if (value === null) element.removeAttribute(what);
     else element.setAttribute(what, value);
-    if (what === 'hidden') {
-      options.hidden = !options.querySelector(':not([hidden])');
-      fitLater(element); // while it was hidden, it could not be measured
-    }
   },
   // A bar that stands upright is one that lies, turned by a quarter: so it is in every browser.
   Place(at, left, top, width, height, letters) {

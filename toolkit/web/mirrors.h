@@ -23,11 +23,11 @@ struct Scale {
 int MakeElement(Component& component, const char* kind, int in = 0);
 Component& ComponentOf(int element);
 
-// A mirror for each item of the menus and for each of the window's controls. `scale` is the
+// Adds a mirror for each item of the menus and for each of the window's controls. `scale` is the
 // window's own, which may change.
-std::vector<std::unique_ptr<Mirror>> MirrorAll(Window& window, const Scale& scale);
+void MirrorAll(Window& window, const Scale& scale, std::vector<std::unique_ptr<Mirror>>& mirrors);
 
-// What shows a picture box on its element. It lends the box its canvas as long as it lives.
+// What shows a picture box on its element. The box gets its canvas and its voice.
 std::function<void(int element)> SketchOf(PictureBox& box, const Scale& scale);
 
 }  // namespace toolkit::web

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <map>
 #include <string>
+#include <utility>
 
 // What the page's script does for the program, and the mark of a function that it calls. Texts are
 // UTF-8 with a 0 behind, lengths are the page's pixels. Elements have numbers; 0 is the window.
@@ -12,7 +14,7 @@ extern "C" {
 
 // Makes an element of a kind that the script knows, in another one, and gives its number.
 FROM_PAGE int Make(const char* kind, const char* name, int in);
-// Sets what the element shows or tells; most of it are attributes. Null takes it away.
+// Sets what the element shows or tells; most of it are attributes.
 FROM_PAGE void Set(int element, const char* what, const char* text);
 FROM_PAGE void Place(int element, double left, double top, double width, double height,
                      double letters);
@@ -31,6 +33,16 @@ FROM_PAGE void End();
 
 inline void Set(int element, const char* what, const std::string& text) {
   Set(element, what, text.c_str());
+}
+// The same, but only what is new, as a change costs the browser time. For all that the user does
+// not change as well.
+inline void Tell(int element, const char* what, const std::string& text) {
+  static std::map<std::pair<int, const char*>, std::string> told;
+  const auto [place, first] = told.try_emplace({element, what}, text);
+  if (first || std::exchange(place->second, text) != text) Set(element, what, text);
+}
+inline void Tell(int element, const char* what, bool truth) {
+  Tell(element, what, std::string(truth ? "true" : "false"));
 }
 
 }  // namespace toolkit::web::page

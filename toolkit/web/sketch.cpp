@@ -25,18 +25,13 @@ struct Letters : raster::TileSource {
   }
 };
 
-// A picture box's canvas, which the page shows pixel by pixel. A page has one.
+// A picture box's canvas, which the page shows pixel by pixel. A page has one, as long as it is
+// there.
 struct Sketch {
   explicit Sketch(PictureBox& shown) : box(shown) {
     box.AttachCanvas(&canvas);
     box.AttachAnnouncer([](const std::string& text) { page::Announce(text.c_str()); });
   }
-  ~Sketch() {
-    box.AttachAnnouncer(nullptr);
-    box.AttachCanvas(nullptr);
-  }
-  Sketch(const Sketch&) = delete;
-  Sketch& operator=(const Sketch&) = delete;
 
   // The canvas begins and ends between pixels of the screen, where a pixel of the page may be a
   // broken number of them. So the browser shows each of the picture's pixels as one of the
@@ -49,9 +44,9 @@ struct Sketch {
     const Extent size{std::max(whole(place.width), 1), std::max(whole(place.height), 1)};
     page::Place(element, whole(place.left) / ratio, whole(place.top + menu) / ratio - menu,
                 size.width / ratio, size.height / ratio, 0.0);
-    page::Set(element, "width", std::to_string(size.width));
-    page::Set(element, "height", std::to_string(size.height));
-    page::Set(element, "description", box.Description);
+    page::Tell(element, "width", std::to_string(size.width));
+    page::Tell(element, "height", std::to_string(size.height));
+    page::Tell(element, "description", box.Description);
     canvas.SetFont(box.FontName, box.FontSize);
     if (canvas.Resize(size, scale.twips.Zoom() * ratio, !box.CanRedraw())) box.Redraw();
     page::Repaint();  // the keyboard's pointer may have moved
@@ -62,13 +57,13 @@ struct Sketch {
   raster::RasterCanvas canvas{kPacking, letters, page::Repaint};
 };
 
-std::shared_ptr<Sketch> sketch;
+std::unique_ptr<Sketch> sketch;
 
 }  // namespace
 
 std::function<void(int)> SketchOf(PictureBox& box, const Scale& scale) {
-  sketch = std::make_shared<Sketch>(box);
-  return [shown = sketch, &scale](int element) { shown->Show(element, scale); };
+  sketch = std::make_unique<Sketch>(box);
+  return [&scale](int element) { sketch->Show(element, scale); };
 }
 
 // The picture, with the keyboard's pointer over it while the sketch has the keyboard.
