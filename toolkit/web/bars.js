@@ -2,7 +2,7 @@
 // a pointer is told to the program, as each browser does something else of its own beside the
 // thumb.
 import { tell } from './program.js';
-import { keepFromBrowser, make } from './texts.js';
+import { hear, keepFromBrowser, make } from './texts.js';
 
 const kFirstRepeat = 400; // milliseconds
 const kRepeat = 60;
@@ -50,13 +50,10 @@ function turn(event) {
 
 export function makeBar(orientation) {
   const bar = make('input', { type: 'range', 'aria-orientation': orientation });
-  const hear = (listener, ...types) => {
-    for (const type of types) bar.addEventListener(type, listener, { passive: false });
-  };
-  hear(keepFromBrowser, 'mousedown', 'touchstart', 'contextmenu');
-  hear(pressBar, 'pointerdown');
-  hear(drag, 'pointermove');
-  hear(release, 'pointerup', 'pointercancel', 'lostpointercapture');
-  hear(turn, 'wheel');
+  keepFromBrowser(bar);
+  hear(bar, pressBar, 'pointerdown');
+  hear(bar, drag, 'pointermove');
+  hear(bar, release, 'pointerup', 'pointercancel', 'lostpointercapture');
+  hear(bar, turn, 'wheel');
   return bar;
 }

@@ -1,6 +1,6 @@
 // The SHIFT button, for hands without a keyboard: once tapped, it stays down until the next release
 // on the sketch; or it is held by one finger while another one pulls.
-import { keepFromBrowser } from './texts.js';
+import { hear } from './texts.js';
 
 const button = document.getElementById('SHIFT');
 let finger = null; // the pointer on it
@@ -17,22 +17,20 @@ export function useShift() {
 }
 
 export function hearShift() {
-  button.addEventListener('pointerdown', ({ pointerId }) => {
+  hear(button, ({ pointerId }) => {
     button.setPointerCapture(pointerId);
     [finger, lets, tapped] = [pointerId, isShiftDown(), false];
     press(true);
-  });
-  const leave = ({ pointerId, type }) => {
+  }, 'pointerdown');
+  hear(button, ({ pointerId, type }) => {
     if (pointerId !== finger) return;
     [finger, tapped] = [null, type === 'pointerup'];
     if (lets) press(false);
-  };
-  button.addEventListener('pointerup', leave);
-  button.addEventListener('pointercancel', leave);
+  }, 'pointerup', 'pointercancel');
   // A keyboard, a switch or a voice clicks without a finger.
-  button.addEventListener('click', () => {
+  hear(button, () => {
     if (!tapped) press(!isShiftDown());
     tapped = false;
-  });
-  button.addEventListener('contextmenu', keepFromBrowser);
+  }, 'click');
+  hear(button, (event) => event.preventDefault(), 'contextmenu');
 }

@@ -1,7 +1,7 @@
 // The sketch: the picture that the program has drawn, the letters on it, the pointer over it.
 import { program, shiftOf, tell, textAt, wake } from './program.js';
 import { hearShift, isShiftDown, useShift } from './shift.js';
-import { keepFromBrowser, make } from './texts.js';
+import { hear, keepFromBrowser, make } from './texts.js';
 
 const kButtons = [1, 2, 4, 8, 16]; // left, right, middle, ..., for pointers and the program alike
 const kCursors = ['default', 'crosshair', 'pointer', 'grabbing']; // in the program's order
@@ -80,19 +80,15 @@ function cancel({ pointerId }) {
 }
 
 export function makeSketch() {
-  const hear = (type, listener) => canvas.addEventListener(type, listener, { passive: false });
-  // A press leaves the keyboard where it is, and neither scrolls nor opens anything.
-  for (const type of ['mousedown', 'touchstart', 'contextmenu']) hear(type, keepFromBrowser);
-  for (const type of ['pointerdown', 'pointermove', 'pointerup']) hear(type, follow);
-  hear('pointercancel', cancel);
-  hear('pointerleave', () => { place = null; });
-  const focus = (has) => () => {
-    focused = has;
+  keepFromBrowser(canvas);
+  hear(canvas, follow, 'pointerdown', 'pointermove', 'pointerup');
+  hear(canvas, cancel, 'pointercancel');
+  hear(canvas, () => { place = null; }, 'pointerleave');
+  hear(canvas, ({ type }) => {
+    focused = type === 'focus';
     repaint();
-    if (!has) tell(canvas, 'Blur');
-  };
-  hear('focus', focus(true));
-  hear('blur', focus(false));
+    if (!focused) tell(canvas, 'Blur');
+  }, 'focus', 'blur');
   hearShift();
   return canvas;
 }

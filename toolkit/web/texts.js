@@ -15,9 +15,16 @@ export function make(tag, attributes = {}, ...inside) {
   return element;
 }
 
-// The browser does nothing of its own with a press. Two fingers it may take for a pinch.
-export function keepFromBrowser(event) {
-  if (event.cancelable && !(event.touches?.length > 1)) event.preventDefault();
+export function hear(element, listener, ...types) {
+  for (const type of types) element.addEventListener(type, listener, { passive: false });
+}
+
+// The browser does nothing of its own with a press: it leaves the keyboard where it is, and neither
+// scrolls nor opens anything. Two fingers it may take for a pinch.
+export function keepFromBrowser(element) {
+  hear(element, (event) => {
+    if (event.cancelable && !(event.touches?.length > 1)) event.preventDefault();
+  }, 'mousedown', 'touchstart', 'contextmenu');
 }
 
 export function fitLater(element) { changed.add(element); }
