@@ -114,4 +114,16 @@ TEST(Interaction, RejectsPointsOffTheTrack) {
   EXPECT_TRUE(p.Operations().empty());
 }
 
+// As when a finger turns out to scroll.
+TEST(Interaction, APointerTakenAwayReleasesNothing) {
+  Picked p(20, 15, 3, 20, true);
+  p.Press(0, 0, 1);
+  const std::string told = p.window->Text1.Text;
+  p.Forget();
+  p.window->eikona.UserMouseCancel();
+  EXPECT_EQ(p.window->eikona.CursorAt(p.Pixel(0, 0)), toolkit::Cursor::PointingHand);
+  EXPECT_TRUE(p.Operations().empty());
+  EXPECT_EQ(p.window->Text1.Text.Get(), told);
+}
+
 }  // namespace

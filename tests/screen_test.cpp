@@ -5,11 +5,18 @@
 
 namespace {
 
+using toolkit::Size;
+
 constexpr double kTitle = 30;
+constexpr double kSides[] = {480, 600, 676, 768, 1024, 1080, 1366, 1440, 1920, 2160, 3840};
+
+toolkit::Room NeededRoom() {
+  static const Program program;
+  return program.window->Surroundings;
+}
 
 toolkit::View ViewOf(double width, double height) {
-  static const Program program;
-  return toolkit::ViewOf({width, height}, kTitle, program.window->Surroundings);
+  return toolkit::ViewOf({width, height}, kTitle, NeededRoom());
 }
 
 TEST(Screen, ZoomFollowsTheHeight) {
@@ -25,18 +32,19 @@ TEST(Screen, ZoomFollowsTheHeight) {
   }
 }
 
-// On screens of all shapes the window as it is laid out fits under its title and its menu; and the
-// zoom that is found for it there later is the same, and fits it into every other screen.
+// On screens of all shapes the window as it is laid out fits under its title and its menu; the zoom
+// that is found for it there later is the same, for one that is a little larger nearly so, and fits
+// it into every other screen.
 TEST(Screen, HoldsTheWholeWindow) {
-  constexpr double kSides[] = {480, 600, 676, 768, 1024, 1080, 1366, 1440, 1920, 2160, 3840};
   for (const double width : kSides) {
     for (const double height : kSides) {
       SCOPED_TRACE(std::to_string(width) + " x " + std::to_string(height));
-      const auto [chosen, screen] = ViewOf(width, height);
+      const toolkit::View view = ViewOf(width, height);
+      const auto& [chosen, screen, part] = view;
       Program p(static_cast<int>(screen.width), static_cast<int>(screen.height));
-      const toolkit::Size needed = toolkit::Extents(p.window->controls);
-      const auto zoomAt = [&, laid = screen.height](double freeWidth, double freeHeight) {
-        return toolkit::ZoomFor({freeWidth, freeHeight}, kTitle, needed, laid);
+      const Size needed = toolkit::Extents(p.window->controls);
+      const auto zoomAt = [&](double freeWidth, double freeHeight) {
+        return toolkit::ZoomFor({freeWidth, freeHeight}, kTitle, needed, view);
       };
       const auto fits = [&](double zoom, double freeWidth, double freeHeight) {
         const double under = (needed.height + toolkit::kMenuHeight) * zoom + kTitle;
@@ -45,12 +53,31 @@ TEST(Screen, HoldsTheWholeWindow) {
       };
       EXPECT_TRUE(fits(chosen, width, height));
       const bool all = screen.height * chosen == height;  // is told of it
-      EXPECT_TRUE(!all || std::abs(zoomAt(width, height) - chosen) < 1e-3);
+      EXPECT_EQ(zoomAt(width, height), chosen);
+      EXPECT_TRUE(!all || std::abs(zoomAt(width + 1e-9, height) - chosen) < 1e-3);
       for (const double side : kSides) {
         EXPECT_TRUE(fits(zoomAt(side, 900), side, 900));
         EXPECT_LE(zoomAt(side, 900), std::max(900 / screen.height, toolkit::kLeastZoom));
       }
       EXPECT_EQ(zoomAt(1, 1), toolkit::kLeastZoom);
+    }
+  }
+}
+
+// Letters of 8.25 points are 11 of the program's pixels high; and the text box beside the picture
+// ends above the row of scroll bars.
+TEST(Screen, APageIsLargeEnoughToBeRead) {
+  for (double side = 1; side < 1000; side += 9) {
+    for (const Size seen : {Size{1366, side}, Size{side, 1366}}) {
+      SCOPED_TRACE(std::to_string(seen.width) + " x " + std::to_string(seen.height));
+      const Size page = toolkit::PageFor(seen, NeededRoom());
+      EXPECT_GE(page.width, seen.width);
+      EXPECT_GE(page.height, seen.height);
+      EXPECT_EQ(page == seen, seen.width >= 517 && seen.height >= 434);
+      const toolkit::View view = toolkit::ViewOf(page, 0.0, NeededRoom());
+      EXPECT_GE(11.0 * view.zoom, 7.6);
+      const Program p(1366, static_cast<int>(std::ceil(view.screen.height)));
+      EXPECT_LE(p.window->Text1.Bottom(), p.window->platosvalue.Top);
     }
   }
 }

@@ -16,8 +16,8 @@ Size AtLeastOne(Size size) {
 
 }  // namespace
 
-View ViewOf(Size free, double title, const Room& room) {
-  free = AtLeastOne(free);
+View ViewOf(Size part, double title, const Room& room) {
+  const Size free = AtLeastOne(part);
   const double rest = (1.0 - room.share) * free.height - title;
   const double fits = std::min({rest / (room.under + kMenuHeight), free.width / room.narrowest,
                                 room.share * free.height / room.lowest});
@@ -28,15 +28,16 @@ View ViewOf(Size free, double title, const Room& room) {
   const double zoom = std::max(std::min(fits, largest), kLeastZoom);
   // The screen's height at which picture and what stands beside it take the whole width.
   const double widest = std::max((free.width - room.beside * zoom) / room.share, 1.0);
-  return {zoom, {free.width / zoom, std::min(free.height, widest) / zoom}};
+  return {zoom, {free.width / zoom, std::min(free.height, widest) / zoom}, part};
 }
 
-double ZoomFor(Size free, double title, Size needed, double laidHeight) {
+double ZoomFor(Size free, double title, Size needed, const View& laid) {
+  if (free == laid.free) return laid.zoom;
   free = AtLeastOne(free);
   needed = AtLeastOne(needed);
   const double fits =
       std::min(free.width / needed.width, (free.height - title) / (needed.height + kMenuHeight));
-  return std::max(std::min(fits, free.height / std::max(laidHeight, 1.0)), kLeastZoom);
+  return std::max(std::min(fits, free.height / laid.screen.height), kLeastZoom);
 }
 
 Size PageFor(Size seen, const Room& room) {

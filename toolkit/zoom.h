@@ -11,6 +11,7 @@ class Control;
 
 struct Size {
   double width, height;
+  bool operator==(const Size&) const = default;
 };
 
 // What a window needs around a square picture that takes a share of the screen's height. The
@@ -34,6 +35,7 @@ inline constexpr double kLeastZoom = 0.5;
 struct View {
   double zoom;
   Size screen;  // in the program's pixels
+  Size free;    // the part of the screen that it was made for
 };
 
 // The view for a free part of a screen with a window whose title takes `title` of its height. The
@@ -43,10 +45,11 @@ struct View {
 // as 1.
 View ViewOf(Size free, double title, const Room& room);
 
-// The zoom at which a window that has been laid out for a screen `laidHeight` high, and is `needed`
-// large without its menu bar (both in the program's pixels), fits into another free part: its
-// picture keeps its share of the height where the rest fits, and the zoom is at least kLeastZoom.
-double ZoomFor(Size free, double title, Size needed, double laidHeight);
+// The zoom at which a window that has been laid out for that view, and is `needed` large without
+// its menu bar (in the program's pixels), fits into another free part: its picture keeps its share
+// of the height where the rest fits, and the zoom is at least kLeastZoom. Where the part is as
+// large as at first, so is the window.
+double ZoomFor(Size free, double title, Size needed, const View& laid);
 
 // The part of a page to be filled, where `seen` of it shows without scrolling: more than that where
 // letters would be too small to be read, as on a telephone. There the page scrolls.

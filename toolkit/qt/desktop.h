@@ -34,7 +34,7 @@ class QtDesktop : public Desktop {
  private:
   void WatchScreens(QApplication& application);
 
-  View view_{1.0, {1024.0, 768.0}};
+  View view_{1.0, {1024.0, 768.0}, {}};
   std::unique_ptr<WindowMirror> mirror_;
   bool ended_ = false;
   QObject watcher_;  // ends the connections to the screens with the desktop

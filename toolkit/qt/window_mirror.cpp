@@ -82,8 +82,7 @@ void WindowMirror::Cover(const QRect& free) {
   if (isVisible()) Settle();
   if (free == free_) return;
   free_ = free;
-  twips_ = TwipScale(
-      ZoomFor(RoomIn(free), kTitleHeight, Extents(window_.controls), told_.screen.height));
+  twips_ = TwipScale(ZoomFor(RoomIn(free), kTitleHeight, Extents(window_.controls), told_));
   ApplyStyle(twips_.Zoom());
   for (const auto& mirror : controls_) mirror->Refresh();
   asked_ = QRect();

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "toolkit/bar_press.h"
 #include "toolkit/tick_grid.h"
 #include "toolkit/web/mirrors.h"
 #include "toolkit/web/page.h"
@@ -43,12 +44,11 @@ class WebDesktop : public Desktop {
   }
 
   // Another part of the page is seen from now on; everything becomes as much larger or smaller, and
-  // is shown as it is. As it was laid out, so it is again when the page has its first size again.
+  // is shown as it is.
   void Cover(Size seen, double ratio) {
     scale_.ratio = ratio;
-    const bool asLaid = seen.width == seen_.width && seen.height == seen_.height;
     const Size page = PageFor(seen, window_->Surroundings);
-    Zoom(asLaid ? view_.zoom : ZoomFor(page, 0.0, Extents(window_->controls), view_.screen.height));
+    Zoom(ZoomFor(page, 0.0, Extents(window_->controls), view_));
   }
 
   // Lets the timers tick whose time has come. True while there are ticks to wait for. The next one
@@ -72,7 +72,7 @@ class WebDesktop : public Desktop {
     scale_.twips = TwipScale(zoom);
     // Rounded down: rounded up, it could make the window a pixel too high for the page.
     scale_.menuHeight = static_cast<int>(kMenuHeight * zoom);
-    page::TellZoom(zoom, scale_.menuHeight);
+    page::TellZoom(zoom, scale_.menuHeight, kBarArrow * zoom, kBarThumb * zoom);
     for (const auto& mirror : mirrors_) mirror->Refresh();
   }
 
@@ -85,7 +85,7 @@ class WebDesktop : public Desktop {
   }
 
   Size seen_;
-  View view_{1.0, {1024.0, 768.0}};
+  View view_{1.0, {1024.0, 768.0}, {}};
   Scale scale_;
   Window* window_ = nullptr;
   std::vector<std::unique_ptr<Mirror>> mirrors_;

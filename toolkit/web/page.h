@@ -20,7 +20,8 @@ FROM_PAGE void Place(int element, double left, double top, double width, double 
                      double letters);
 // Gives the keyboard to the element of this name.
 FROM_PAGE void GiveFocus(const char* name);
-FROM_PAGE void TellZoom(double zoom, int menuHeight);
+// The zoom, and how large some parts are at it.
+FROM_PAGE void TellZoom(double zoom, int menuHeight, double barArrow, double barThumb);
 FROM_PAGE void Announce(const char* text);
 FROM_PAGE void ShowMessage(const char* text);
 // Draws a text on white and hands it over by Tile. The colour is 0xrrggbb.

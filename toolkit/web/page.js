@@ -30,9 +30,11 @@ function watchRatio() {
 }
 
 const pageForProgram = {
-  TellZoom(zoom, menuHeight) {
+  TellZoom(zoom, ...lengths) {
     root.style.setProperty('--zoom', zoom);
-    root.style.setProperty('--menu', `${menuHeight}px`);
+    for (const name of ['menu', 'arrow', 'thumb']) {
+      root.style.setProperty(`--${name}`, `${lengths.shift()}px`);
+    }
   },
   // Where boxes may not be opened, as in some frames, alert returns at once, without a word. Then
   // the text stands on the page until the next press.
