@@ -62,6 +62,7 @@ export class Program {
   explanation() { return this.evaluate("document.getElementById('Text1').value"); }
   value(id) { return this.evaluate(`Number(document.getElementById('${id}').value)`); }
   focused() { return this.evaluate('document.activeElement.id'); }
+  told() { return this.evaluate("document.getElementById('live').textContent"); }
   waitForTold(text) {
     return this.waitFor(`document.getElementById('live').textContent.includes('${text}')`);
   }
@@ -177,7 +178,7 @@ export class Typing {
       await this.pressUntil(id, 'ArrowRight');
       await this.engine.press('Enter');
     } else if (id.startsWith('Option')) {
-      // Only one of them is a stop of the tab key; an arrow key leads to the other and takes it.
+      // An arrow key leads to the other one and takes it.
       await this.pressUntil('Option', 'Tab');
       await this.engine.press((await this.program.focused()) === id ? 'Space' : 'ArrowDown');
     } else {

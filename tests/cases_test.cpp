@@ -47,11 +47,12 @@ TEST(Cases, EveryHandlerFromEveryCase) {
       std::istringstream steps(way);
       for (std::string step; steps >> step;) kCases.handlers.at(step).Run(*p.window);
       p.window->Timer1.Interval = 7;
-      p.window->eikona.Scale(-1, 1, 1, -1);
+      p.window->eikona.Scale(0, 1, 1, -1);
       p.window->Text1.Text = "before";
       p.Forget();
 
       const State before = Shown(p);
+      EXPECT_EQ(before.at("scale"), "other");
       handler.Run(*p.window);
       EXPECT_EQ(Differences(Shown(p), handler.After(before)), "");
 

@@ -227,20 +227,31 @@ TEST(QtLook, IsTheSameOnAnyDesktop) {
 }
 
 TEST_F(QtWindow, TheIconIsDrawnInAllSizes) {
+  const auto velocity = [](QRgb at) {
+    return qRed(at) > qBlue(at) + 90 && qRed(at) > qGreen(at) + 90;
+  };
+  const auto acceleration = [](QRgb at) { return qBlue(at) > qRed(at) + 90; };
   const QIcon icon = frame->windowIcon();
   for (const int side : {16, 24, 32, 48, 64, 128}) {
     const QImage seen = icon.pixmap(side).toImage();
     ASSERT_EQ(seen.size(), QSize(side, side));
     EXPECT_EQ(qAlpha(seen.pixel(0, 0)), 0) << side;
     EXPECT_EQ(qAlpha(seen.pixel(side / 2, side / 2)), 255) << side;
-    // The velocity is red, the acceleration blue.
-    const auto velocity = [](QRgb at) {
-      return qRed(at) > qBlue(at) + 90 && qRed(at) > qGreen(at) + 90;
-    };
-    const auto acceleration = [](QRgb at) { return qBlue(at) > qRed(at) + 90; };
     EXPECT_GT(PartOf(seen, velocity).width(), side / 3) << side;
     EXPECT_NEAR(PartOf(seen, acceleration).height(), side / 4.0, side / 16.0 + 1.0) << side;
   }
+  // A sine, seen where no arrow lies over it, with the circle of curvature at its crest.
+  const QImage seen = icon.pixmap(128).toImage();
+  const double crest = 47, middle = 74, amplitude = 36, quarter = 48, curve = M_PI / 2 / quarter;
+  for (int x = 12; x < 117; x += x == 40 ? 36 : 2) {
+    const double y = middle - amplitude * std::cos(curve * (x - crest));
+    EXPECT_TRUE(Dark(seen.pixel(x, qRound(y)))) << x;
+    EXPECT_FALSE(Dark(seen.pixel(x, qRound(x < crest ? y - 8 : y + 8)))) << x;
+  }
+  const double radius = 1 / (amplitude * curve * curve), dot = 2.25;
+  const QRect circle = PartOf(seen, [](QRgb at) { return qRed(at) > 200 && qGreen(at) < 150; });
+  EXPECT_NEAR(circle.left(), crest - radius - dot, 1.5);
+  EXPECT_NEAR(circle.bottom(), middle - amplitude + 2 * radius + dot, 1.5);
 }
 
 }  // namespace

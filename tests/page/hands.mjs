@@ -13,6 +13,7 @@ const kMiddle = [6, 0];
 const kElsewhere = [12, 0];
 const kRight = 'FORCE: HAS THE CORRECT DIRECTION FOR THE SHAPE OF THE CURVE';
 const kWrong = 'FORCE: HAS WRONG DIRECTION FOR THE SHAPE OF THE CURVE';
+const kEnd = 'The run has ended: the body has left the sketch';
 const kShiftIsHeld = "document.getElementById('SHIFT').getAttribute('aria-pressed') === 'true'";
 const kHearPress = `document.addEventListener('pointerdown',
   ({ pointerId }) => { globalThis.pressing = pointerId; }, { once: true, capture: true })`;
@@ -170,7 +171,8 @@ export function testHands(program, limits) {
     await new Typing(program).scroll('vimatimi', 20);
     await mouse.click('Command1');
     await program.waitForTold('Ds =');
-    await program.waitForTold('The run has ended: the body has left the sketch');
+    await program.waitForTold(kEnd);
+    assert.equal(await program.told(), kEnd);
     const ended = await program.look();
     await program.frames(4);
     assert.equal((await program.look()).hash, ended.hash);

@@ -11,8 +11,8 @@ const kSomeSizes = [[640, 480], [768, 1024], [1366, 768]]; // for the ratios bey
 const kUsual = [1366, 768];
 const kPhones = [[390, 844], [844, 390]]; // so small that they may scroll
 
-// What is outside the page or cut off, and which texts meet. A page that may scroll holds what can
-// be scrolled to.
+// What is outside the page or the window on it or cut off, what lies that should stand, and which
+// texts meet. A page that may scroll holds what can be scrolled to.
 const faults = (mayScroll) => `(() => {
   const found = [];
   const page = document.scrollingElement;
@@ -23,13 +23,20 @@ const faults = (mayScroll) => `(() => {
   const seen = [...document.querySelectorAll('main [id], main canvas')].filter((element) =>
     element.id !== 'live' && element.checkVisibility({ visibilityProperty: true }));
   const texts = [];
+  // Its size is rounded down, that of what is in it is not.
+  const shell = document.getElementById('shell').getBoundingClientRect();
   for (const element of seen) {
     const { left, top, right, bottom } = element.getBoundingClientRect();
     if (left + scrollX < 0 || top + scrollY < 0 || right + scrollX > edge[0] + 0.5 ||
-        bottom + scrollY > edge[1] + 0.5) {
+        bottom + scrollY > edge[1] + 0.5 || right > shell.right + 1 ||
+        bottom > shell.bottom + 1) {
       found.push(element.id + ' is outside: ' + [left, top, right, bottom]);
     }
     const { scrollWidth, clientWidth, scrollHeight, clientHeight } = element;
+    const stands = element.getAttribute('aria-orientation') === 'vertical';
+    if (element.matches('input') && stands !== (bottom - top > right - left)) {
+      found.push(element.id + ' lies, or should not stand');
+    }
     const holds = element.querySelector('[id]');
     if (!holds && clientWidth && (scrollWidth > clientWidth || scrollHeight > clientHeight)) {
       found.push(element.id + ' is cut: ' +
