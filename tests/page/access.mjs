@@ -92,6 +92,8 @@ export function testAccess(program, { emulate }) {
     await mouse.click('GUESSFORCE');
     await mouse.click('periptoseis');
     await program.checkTold(kRun);
+    await mouse.pointer.click(await program.engine.middle('DYNAMEISDIAFORES'));
+    await program.waitForTold('The centripetal acceleration is');
   });
 
   test('the tab key leads to everything, in the program\'s order', async () => {
