@@ -47,6 +47,9 @@ TEST(QtScreens, ASmallerWindowScrollsAndALargerOneIsWhole) {
       return area.horizontalScrollBar()->isVisible() || area.verticalScrollBar()->isVisible();
     };
     EXPECT_FALSE(scrolls());
+    const toolkit::Size needed = toolkit::Extents(program.window->controls);
+    EXPECT_GE(area.widget()->minimumWidth(), needed.width * program.screen.zoom);
+    EXPECT_GE(area.widget()->minimumHeight(), needed.height * program.screen.zoom);
     program.frame->resize(whole / 3);
     EXPECT_TRUE(scrolls());
     // The tab key comes to every control that shows, and each is seen when it has the keyboard.
