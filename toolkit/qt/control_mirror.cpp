@@ -2,35 +2,29 @@
 
 #include <QSignalBlocker>
 
-#include <utility>
-
 #include "toolkit/qt/font.h"
 #include "toolkit/qt/text.h"
 
 namespace toolkit::qt {
 
+// What refreshes owns the widget. So that is there for as long as something may refresh it.
 ControlMirror::ControlMirror(Control& control, const TwipScale& twips,
-                             std::unique_ptr<QWidget> widget, std::function<void()> show)
-    : Mirror(control, [this] { Show(); }),
-      control_(control),
-      twips_(twips),
-      widget_(std::move(widget)),
-      show_(std::move(show)) {
-  widget_->setObjectName(Text(control.Name));
-  widget_->setAccessibleName(Text(control.AccessibleName));
-  widget_->setToolTip(Text(control.Hint));
-  widget_->setAccessibleDescription(Text(control.Hint));
-  Show();
-}
-
-void ControlMirror::Show() {
-  const QSignalBlocker blocker(widget_.get());
-  const PixelBox place = twips_.PixelsOf(control_);
-  widget_->setGeometry(place.left, place.top, place.width, place.height);
-  const QFont font = FontOf(control_.FontName, FontPixels(control_.FontSize, twips_.Zoom()));
-  if (font != widget_->font()) widget_->setFont(font);
-  show_();
-  widget_->setVisible(control_.Visible);
+                             const std::shared_ptr<QWidget>& widget,
+                             const std::function<void()>& show)
+    : Mirror(control, [&control, &twips, widget, show] {
+        const QSignalBlocker blocker(widget.get());
+        const PixelBox place = twips.PixelsOf(control);
+        widget->setGeometry(place.left, place.top, place.width, place.height);
+        const QFont font = FontOf(control.FontName, FontPixels(control.FontSize, twips.Zoom()));
+        if (font != widget->font()) widget->setFont(font);
+        show();
+        widget->setVisible(control.Visible);
+      }) {
+  widget->setObjectName(Text(control.Name));
+  widget->setAccessibleName(Text(control.AccessibleName));
+  widget->setToolTip(Text(control.Hint));
+  widget->setAccessibleDescription(Text(control.Hint));
+  Refresh();
 }
 
 }  // namespace toolkit::qt

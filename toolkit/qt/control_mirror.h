@@ -12,21 +12,14 @@
 
 namespace toolkit::qt {
 
-// A control's widget. What the program sets is shown without being taken for the user's doing.
+// A control's widget, which goes with it. What the program sets is shown without being taken for
+// the user's doing.
 class ControlMirror : public Mirror {
  public:
   // `twips` is the window's own, which may change. `show` brings to the widget what only this kind
   // of control has.
-  ControlMirror(Control& control, const TwipScale& twips, std::unique_ptr<QWidget> widget,
-                std::function<void()> show);
-
- private:
-  void Show();
-
-  Control& control_;
-  const TwipScale& twips_;
-  std::unique_ptr<QWidget> widget_;
-  std::function<void()> show_;
+  ControlMirror(Control& control, const TwipScale& twips, const std::shared_ptr<QWidget>& widget,
+                const std::function<void()>& show);
 };
 
 // A mirror for each of the window's controls. Their widgets are children of `client`, in the same

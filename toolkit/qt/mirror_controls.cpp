@@ -17,7 +17,7 @@ class PictureMirror : public ControlMirror {
   // Becomes the owner of the widget.
   PictureMirror(PictureBox& box, const TwipScale& twips, SketchWidget* shown,
                 AnnouncementWidget* voice)
-      : ControlMirror(box, twips, std::unique_ptr<QWidget>(shown),
+      : ControlMirror(box, twips, std::shared_ptr<QWidget>(shown),
                       [&box, &twips, shown] {
                         shown->canvas().SetFont(box.FontName, box.FontSize);
                         shown->FitCanvas(twips.Zoom());
@@ -109,10 +109,10 @@ class Builder : public ControlVisitor {
   std::vector<std::unique_ptr<Mirror>> Take() { return std::move(mirrors_); }
 
  private:
-  Mirror& Add(Control& control, QWidget* shown, std::function<void()> show) {
+  Mirror& Add(Control& control, QWidget* shown, const std::function<void()>& show) {
     Chain(shown);
-    mirrors_.push_back(std::make_unique<ControlMirror>(
-        control, twips_, std::unique_ptr<QWidget>(shown), std::move(show)));
+    mirrors_.push_back(
+        std::make_unique<ControlMirror>(control, twips_, std::shared_ptr<QWidget>(shown), show));
     return *mirrors_.back();
   }
 
