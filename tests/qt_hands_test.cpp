@@ -78,11 +78,15 @@ TEST_F(QtHands, KeysReachTheOptionsAndTheBars) {
 }
 
 TEST_F(QtHands, TheSketchHearsKeysThatAreLetGoAndThatTheKeyboardLeaves) {
+  Action("GUESSFORCE").trigger();
+  Focus("eikona");
+  EXPECT_TRUE(IsUpToDate());
+  Press(Key_Right);
+  EXPECT_TRUE(IsUpToDate());  // the pointer has moved
   std::vector<std::pair<toolkit::Key, int>> heard;
   window->eikona.KeyDown = [&](toolkit::Key key, short shift) {
     heard.emplace_back(key, shift & ~toolkit::kShiftMask);
   };
-  Focus("eikona");
   QTest::keyPress(&eikona, Key_Shift);
   QTest::keyRelease(&eikona, Key_Shift, Qt::ControlModifier);
   Press(Key_Escape);

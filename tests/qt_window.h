@@ -86,6 +86,12 @@ struct Running {
   QImage Seen(QWidget& widget) {
     return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
   }
+  // Whether the window on the screen has been painted anew since it last changed.
+  bool IsUpToDate() {
+    QApplication::processEvents();
+    const QImage seen = frame->screen()->grabWindow(frame->winId()).toImage();
+    return seen == frame->grab().toImage().convertToFormat(seen.format());
+  }
   // How many of the screen's pixels a line is wide that has so many of the program's.
   int Thickness(int width) const {
     return std::max(1, static_cast<int>(width * screen.zoom * screen.ratio));

@@ -141,6 +141,9 @@ function testForces(program, limits) {
   test('a force is pulled by the keyboard', async () => {
     await startGuessing(program);
     await new Typing(program).pressUntil('eikona', 'Tab');
+    const { hash } = await program.look();
+    await program.engine.press('ArrowRight');
+    assert.notEqual((await program.look()).hash, hash, 'the pointer has moved');
     await program.engine.key('keyDown', 'Shift');
     await program.engine.press('ArrowUp');
     await program.waitForTold('Force x = 0.00, y = 0.25');
