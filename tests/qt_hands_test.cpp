@@ -176,6 +176,8 @@ TEST_F(QtHands, MenuItemsCanBeReadAndWorkedFromOutside) {
   EXPECT_TRUE(menu->rect().contains(guess->rect()));
   work(guess);
   EXPECT_TRUE(window->GUESSFORCE.Checked && guess->state().checked);
+  const auto option = QAccessible::queryAccessibleInterface(&Find("Option2"))->state();
+  EXPECT_TRUE(option.checkable && !option.checked);
 }
 
 // A clipboard on which nothing has been laid, or no text.

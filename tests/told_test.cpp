@@ -42,6 +42,8 @@ TEST(Told, InTheseWords) {
   add("curvature", trough.window->eikona.Description);
   trough.Release(18, -2);
   add("point in a trough", trough.window->eikona.Description);
+  trough.Release(0, 0);
+  add("point on a straight part", trough.window->eikona.Description);
   std::ifstream known(FIRSTSTEP_WORDS);
   for (const std::string& now : words) {
     std::string then;
