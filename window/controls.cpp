@@ -41,7 +41,7 @@ Controls::Controls(toolkit::Desktop& machine)
                                                              {&syxnotikamp, &Label2},
                                                              {&epitaxyno, &Label3},
                                                              {&arxikives, &Label4}}) {
-    bar->Told = [label = label] { return NumberOf(*label); };
+    bar->Told = [shown = label] { return NumberOf(*shown); };
   }
   vimatimi.Told = [this] { return std::to_string(vimatimi.Value) + ", Δt = " + NumberOf(Label5); };
   desktop.Create(*this);
