@@ -5,6 +5,7 @@ import { test } from 'node:test';
 
 import { goTo, kWays } from './pictures.mjs';
 import { Pointing, Typing } from '../../browsers/program.mjs';
+import { readHints } from './table.mjs';
 
 const kAxe = readFileSync(
   new URL('../../browsers/node_modules/axe-core/axe.min.js', import.meta.url), 'utf8');
@@ -44,6 +45,8 @@ const kLabels = {
   Label3: 'Tangential acceleration value: Επιτρόχιος επιτάχυνση= 2.00',
   Label4: 'Initial speed value: Αρχική ταχύτητα = 3',
 };
+const kTitles = `Object.fromEntries(
+  [...document.querySelectorAll('#shell [id]')].map(({ id, title }) => [id, title]))`;
 const kTabOrder = ['eikona', 'Text1', 'platosvalue', 'syxnotikamp', 'epitaxyno', 'arxikives'];
 const kTabOrderOfRun = ['eikona', 'Text1', 'Option2', 'Option3', 'Command1', 'VIMA', 'vimatimi'];
 
@@ -94,6 +97,13 @@ export function testAccess(program, { emulate }) {
     await program.checkTold(kRun);
     await mouse.pointer.click(await program.engine.middle('DYNAMEISDIAFORES'));
     await program.waitForTold('The centripetal acceleration is');
+  });
+
+  test('everything has its hint', async () => {
+    await program.open();
+    const titles = await program.evaluate(kTitles);
+    const hints = Object.entries(readHints()).filter(([id]) => id in titles);
+    assert.deepEqual({ ...titles, ...Object.fromEntries(hints) }, titles);
   });
 
   test('the tab key leads to everything, in the program\'s order', async () => {

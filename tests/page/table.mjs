@@ -1,5 +1,5 @@
-// What the tests of all backends share: what each handler does (cases.txt), and the pictures'
-// hashes (pictures.txt).
+// What the tests of all backends share: what each handler does (cases.txt), the pictures' hashes
+// (pictures.txt) and the words (words.txt).
 import { readFileSync } from 'node:fs';
 
 const lines = (name) =>
@@ -33,6 +33,12 @@ export function readCases() {
   }
   return { opening, handlers };
 }
+
+// The hint of each control and menu item, which stands behind its name.
+export const readHints = () => Object.fromEntries(lines('words.txt').map((line) => {
+  const [, id, text] = /^(.*?): (.*)$/.exec(line);
+  return [id, text];
+}));
 
 // The hash of each picture by its name and density, 'factors at 1.5'.
 export function readPictures() {
