@@ -184,7 +184,7 @@ TEST_F(QtWindow, LettersAreOfOneSerifTypeface) {
   window->Text1.FontName = "No such typeface";
   EXPECT_TRUE(QFontInfo(Find("Text1").font()).family().contains("Serif"));
   // On the sketch they are smooth, in shades of their ink alone.
-  const char* words = "Ταχύτης fW";
+  const char* words = "jΤαχύτης fW";  // reaches beyond its left and right edges
   toolkit::raster::Tile tile =
       toolkit::qt::Letters().Draw(words, {"Times New Roman", 40}, {1, 0, 66});
   QFont serif("Liberation Serif");
@@ -248,10 +248,21 @@ TEST_F(QtWindow, TheIconIsDrawnInAllSizes) {
     EXPECT_TRUE(Dark(seen.pixel(x, qRound(y)))) << x;
     EXPECT_FALSE(Dark(seen.pixel(x, qRound(x < crest ? y - 8 : y + 8)))) << x;
   }
-  const double radius = 1 / (amplitude * curve * curve), dot = 2.25;
-  const QRect circle = PartOf(seen, [](QRgb at) { return qRed(at) > 200 && qGreen(at) < 150; });
+  const double radius = 1 / (amplitude * curve * curve), dot = 2.25, pitch = 7.47;
+  const auto pink = [](QRgb at) { return qRed(at) > 200 && qGreen(at) < 150; };
+  const QRect circle = PartOf(seen, pink);
   EXPECT_NEAR(circle.left(), crest - radius - dot, 1.5);
   EXPECT_NEAR(circle.bottom(), middle - amplitude + 2 * radius + dot, 1.5);
+  int dots = 0;
+  constexpr double kStep = 0.02;
+  for (double angle = M_PI / 2; angle < M_PI * 5 / 4; angle += kStep) {
+    const auto inked = [&](double at) {
+      return pink(seen.pixel(qRound(crest + radius * std::cos(at)),
+                             qRound(middle - amplitude + radius * (1 + std::sin(at)))));
+    };
+    dots += inked(angle) && !inked(angle - kStep);
+  }
+  EXPECT_NEAR(dots, M_PI * 3 / 4 * radius / pitch, 1);
 }
 
 }  // namespace
