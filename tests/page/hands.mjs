@@ -30,6 +30,16 @@ const kMenuKeys = [
   ['c', 'DYNAMEISDIAFORES'], ['g', 'platosvalue'],
 ];
 
+// Where a key is pressed while which other one is held: that is for the browser, or for nobody.
+const kNotOurs = [
+  ['eikona', 'F10', 'shiftKey'], ['eikona', 'ArrowLeft', 'altKey'],
+  ['eikona', 'ArrowLeft', 'metaKey'], ['platosvalue', 'ArrowLeft', 'ctrlKey'],
+  ['XANAPISO', 'ArrowLeft', 'altKey'], ['XANAPISO', 'ArrowLeft', 'ctrlKey'],
+];
+const kTaken = `${JSON.stringify(kNotOurs)}.filter(([id, key, held]) =>
+  !document.getElementById(id).dispatchEvent(new KeyboardEvent('keydown',
+    { key, [held]: true, bubbles: true, cancelable: true })))`;
+
 // What is done to a bar, one after the other, and its value then. One bar stands, the other lies.
 const kBars = {
   platosvalue: [
@@ -165,6 +175,11 @@ export function testHands(program, limits) {
       assert.equal(await program.focused(), focused, key);
     }
     assert.equal((await program.state())['GUESSFORCE checked'], true);
+  });
+
+  test('keys that are pressed with others are left to the browser', async () => {
+    await program.open();
+    assert.deepEqual(await program.evaluate(kTaken), []);
   });
 
   test('a run tells its marks and its end', async () => {

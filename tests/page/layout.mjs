@@ -3,7 +3,9 @@
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
 
+import { copyWith } from '../../browsers/copy.mjs';
 import { Pointing } from '../../browsers/program.mjs';
+import { goTo, kWays } from './pictures.mjs';
 
 const kSizes = [[640, 480], [800, 600], [1024, 600], [768, 1024], [1366, 768],
   [1080, 1920], [1920, 1080], [2560, 1440], [3840, 2160]];
@@ -61,6 +63,23 @@ const faults = (mayScroll) => `(() => {
   return found;
 })()`;
 
+// The letters that are drawn for the sketch, and how many of their boxes have ink at an edge.
+const kWatchLetters = `{
+  globalThis.letters = { drawn: 0, cut: 0 };
+  const { prototype } = CanvasRenderingContext2D;
+  const get = prototype.getImageData;
+  prototype.getImageData = function (...given) {
+    const image = get.apply(this, given);
+    const { data, width, height } = image;
+    const inked = (x, y) => data[4 * (y * width + x)] < 128;
+    const any = (count, test) => Array.from({ length: count }, (_, at) => at).some(test);
+    letters.drawn += 1;
+    letters.cut += any(width, (x) => inked(x, 0) || inked(x, height - 1)) ||
+      any(height, (y) => inked(0, y) || inked(width - 1, y));
+    return image;
+  };
+}`;
+
 // One pixel of the picture is one of the screen's.
 const kSharp = `((canvas, { width, height }) =>
   Math.abs(width * devicePixelRatio - canvas.width) < 0.5 &&
@@ -93,6 +112,16 @@ export function testLayout(program, ratios) {
       await mouse.click('Option2');
       await check(size, `a run, ${size} at ${ratio}`);
     }
+  });
+
+  test('no letter on the sketch is cut', async () => {
+    await program.engine.resize(...kUsual, ratios[0]);
+    await program.open(copyWith('letters', kWatchLetters));
+    await goTo(program, kWays.judgement);
+    await program.frames(2);
+    const { drawn, cut } = await program.evaluate('letters');
+    assert.ok(drawn > 5, `${drawn} texts`);
+    assert.equal(cut, 0);
   });
 
   test('a change of size or ratio keeps state and picture', async () => {
