@@ -38,12 +38,12 @@ struct View {
   Size free;    // the part of the screen that it was made for
 };
 
-// The view for a free part of a screen with a window whose title takes `title` of its height. The
+// The view for the free part of a screen with a window whose title takes `title` of its height. The
 // zoom is 1 on a height of 1080 and less, grows with the height above, and is smaller, down to
 // kLeastZoom, where the window would not fit. On a screen that is high and narrow the program is
 // told a lower one, so that what stands beside the picture stays on it. Sizes of 0 and less count
 // as 1.
-View ViewOf(Size free, double title, const Room& room);
+View ViewOf(Size part, double title, const Room& room);
 
 // The zoom at which a window that has been laid out for that view, and is `needed` large without
 // its menu bar (in the program's pixels), fits into another free part: its picture keeps its share
