@@ -1,5 +1,6 @@
 #include "toolkit/web/mirrors.h"
 
+#include <map>
 #include <utility>
 
 #include "toolkit/mnemonic.h"
@@ -11,6 +12,7 @@ namespace toolkit::web {
 namespace {
 
 std::vector<Component*> components;  // by the numbers of their elements
+std::map<std::pair<int, const char*>, std::string> told;
 
 // Makes the elements, and says of each kind of control what only that kind has to show.
 class Builder : public ControlVisitor {
@@ -81,6 +83,11 @@ class Builder : public ControlVisitor {
 };
 
 }  // namespace
+
+void page::Tell(int element, const char* what, const std::string& text) {
+  const auto [place, first] = told.try_emplace({element, what}, text);
+  if (first || std::exchange(place->second, text) != text) Set(element, what, text);
+}
 
 int MakeElement(Component& component, const char* kind, int in) {
   components.push_back(&component);

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <map>
 #include <string>
-#include <utility>
 
 // What the page's script does for the program, and the mark of a function that it calls. Texts are
 // UTF-8 with a 0 behind, lengths are the page's pixels. Elements have numbers; 0 is the window.
@@ -37,11 +35,7 @@ inline void Set(int element, const char* what, const std::string& text) {
 }
 // The same, but only what is new, as a change costs the browser time. For all that the user does
 // not change as well.
-inline void Tell(int element, const char* what, const std::string& text) {
-  static std::map<std::pair<int, const char*>, std::string> told;
-  const auto [place, first] = told.try_emplace({element, what}, text);
-  if (first || std::exchange(place->second, text) != text) Set(element, what, text);
-}
+void Tell(int element, const char* what, const std::string& text);
 inline void Tell(int element, const char* what, bool truth) {
   Tell(element, what, std::string(truth ? "true" : "false"));
 }
