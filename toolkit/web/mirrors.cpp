@@ -12,6 +12,7 @@ namespace toolkit::web {
 namespace {
 
 std::vector<Component*> components;  // by the numbers of their elements
+// What each element was told last, by its number and by what it shows.
 std::map<std::pair<int, const char*>, std::string> told;
 
 // Makes the elements, and says of each kind of control what only that kind has to show.
